@@ -1,0 +1,31 @@
+include(CMakePackageConfigHelpers)
+
+set(NVO_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/NvoSdkGui)
+
+install(TARGETS NvoSdkGui EXPORT NvoSdkGuiTargets
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/nvo ${PROJECT_BINARY_DIR}/include/nvo
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+
+install(EXPORT NvoSdkGuiTargets NAMESPACE NvoSdkGui:: DESTINATION ${NVO_CMAKE_DIR})
+configure_package_config_file(cmake/NvoSdkGuiConfig.cmake.in NvoSdkGuiConfig.cmake
+    INSTALL_DESTINATION ${NVO_CMAKE_DIR})
+write_basic_package_version_file(NvoSdkGuiConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES
+    ${PROJECT_BINARY_DIR}/NvoSdkGuiConfig.cmake
+    ${PROJECT_BINARY_DIR}/NvoSdkGuiConfigVersion.cmake
+    DESTINATION ${NVO_CMAKE_DIR})
+
+# What a consumer without CMake must say itself.
+set(NVO_PC_CFLAGS "")
+if(NOT BUILD_SHARED_LIBS)
+    string(APPEND NVO_PC_CFLAGS " -DNVO_STATIC_DEFINE")
+endif()
+if(NVO_EXTERNAL_CORE)
+    string(APPEND NVO_PC_CFLAGS " -DNVO_EXTERNAL_CORE")
+endif()
+file(RELATIVE_PATH NVO_PC_PREFIX "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+configure_file(cmake/NvoSdkGui.pc.in NvoSdkGui.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/NvoSdkGui.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QObject>
+
+/**
+ * The base of all test classes.
+ *
+ * A Qt warning that a test does not expect fails the test program, by what it prints; what the platform
+ * plugin says of itself is kept out of that.
+ */
+class TestCase : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+};
