@@ -31,7 +31,7 @@ public:
     /** The singleton. It is made, and the resource read, at the first call. */
     static Palette &instance();
 
-    virtual ~Palette() = default;
+    ~Palette() = default;
     Palette(const Palette &) = delete;
     Palette &operator=(const Palette &) = delete;
 

@@ -39,8 +39,8 @@ public:
         for (int y = 0; y < m_size.height(); ++y) {
             const QRgb *pixels = reinterpret_cast<const QRgb *>(image.constScanLine(y));
             Word *row = &m_words[index(0, y)];
-            for (int i = 0; i < wordsPerRow(); ++i) {
-                const Word opaqueBits = bitsOf(pixels + i * wordBits, bitsInWord(i));
+            for (int i = 0; i < wordsPerRow(); ++i, pixels += wordBits) {
+                const Word opaqueBits = opaqueBitsOf(pixels, bitsInWord(i));
                 const Word bits = opaque ? opaqueBits : ~opaqueBits & usedBits(i);
                 changed |= row[i] != bits;
                 row[i] = bits;
@@ -73,7 +73,7 @@ public:
 private:
     static constexpr QRgb opaqueBit = 0x80000000; // set in an alpha of 128 and more
 
-    static Word bitsOf(const QRgb *pixels, int count)
+    static Word opaqueBitsOf(const QRgb *pixels, int count)
     {
         QRgb all = opaqueBit;
         QRgb any = 0;

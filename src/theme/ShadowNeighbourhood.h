@@ -30,7 +30,7 @@ public:
     ShadowNeighbourhood() = default;
 
     ShadowNeighbourhood(const ShadowParameters &parameters, qreal ratio)
-        : m_peak(static_cast<qreal>(qint64(255) * parameters.percent / 100))
+        : m_peak(static_cast<qreal>(peakAlpha(parameters.percent)))
         , m_fallOff(ratio * qMax(parameters.extentX, parameters.extentY))
     {
         const ShadowSide minXSide = parameters.outer ? ShadowRight : ShadowLeft;
@@ -61,6 +61,8 @@ public:
     }
 
 private:
+    static qint64 peakAlpha(int percent) { return qint64(255) * percent / 100; }
+
     qreal m_peak = 0;
     qreal m_fallOff = 0;
     int m_dxMin = 0;

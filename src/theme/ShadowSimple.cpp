@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QTimerEvent>
 
+#include <utility>
+
 namespace NVO {
 
 namespace {
@@ -191,12 +193,11 @@ void ShadowSimple::dropBlurEffect()
 {
     if (!m_blurEffect)
         return;
-    const QPointer<QGraphicsBlurEffect> blurEffect = m_blurEffect;
-    m_blurEffect = nullptr;
+    const QPointer<QGraphicsBlurEffect> blurEffect = std::exchange(m_blurEffect, nullptr);
     QMetaObject::invokeMethod(
         this,
         [this, blurEffect] {
-            if (blurEffect)
+            if (graphicsEffect() == blurEffect)
                 setGraphicsEffect(nullptr);
         },
         Qt::QueuedConnection);

@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QPainter>
 
+#include <cmath>
 #include <vector>
 
 namespace NVO {
