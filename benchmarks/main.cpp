@@ -1,0 +1,107 @@
+// Times our paths beside what a user would pick instead, in one run, and prints the ratios of the medians.
+//
+// A benchmark is called "<group>/<case>/ours" or "<group>/<case>/<peer>". Where it has a counter "bytes",
+// that is compared in place of the time.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QResource>
+
+#include <cstdio>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace {
+
+/** What a ratio of ours over a peer may be at most. */
+struct Goal
+{
+    const char *name;
+    const char *peer;
+    double atMost;
+};
+
+constexpr Goal goals[] = {
+    {"css/replace", "floor", 4},
+    {"css/replace", "in_place", 0.2},
+    {"css/cached", "array", 4},
+    {"css/imports", "parser", 0.1},
+    {"font/scaled_size", "two_settings", 0.4},
+    {"effects/pixels/100x25", "floor", 2.5},
+    {"effects/pixels/400x120", "floor", 2.8},
+    {"effects/pixels/1200x800", "floor", 2.3},
+    {"effects/pixels/400x120", "drop_shadow", 0.12},
+    {"effects/pixels/1200x800", "drop_shadow", 0.12},
+    {"effects/rect/100x25", "floor", 1.5},
+    {"effects/rect/400x120", "floor", 1.4},
+    {"effects/rect/1200x800", "floor", 1.25},
+    {"effects/sunken/100x25", "floor", 2.7},
+    {"effects/sunken/400x120", "floor", 3.6},
+    {"effects/sunken/1200x800", "floor", 2.7},
+    {"button/thousand", "push_button", 0.75},
+    {"button/memory", "push_button", 1.05},
+};
+
+class RatioReporter : public benchmark::ConsoleReporter
+{
+public:
+    RatioReporter()
+        : ConsoleReporter(OO_Tabular)
+    {}
+
+    void ReportRuns(const std::vector<Run> &runs) override
+    {
+        for (const Run &run : runs) {
+            if (run.aggregate_name != "median")
+                continue;
+            const auto bytes = run.counters.find("bytes");
+            m_medians[run.run_name.function_name] =
+                bytes == run.counters.end() ? run.GetAdjustedRealTime() : double(bytes->second);
+        }
+        ConsoleReporter::ReportRuns(runs);
+    }
+
+    void Finalize() override
+    {
+        std::printf("\n%-28s %-14s %8s %8s\n", "ours", "over", "ratio", "at most");
+        for (const Goal &goal : goals) {
+            const auto ours = m_medians.find(std::string(goal.name) + "/ours");
+            const auto peer = m_medians.find(std::string(goal.name) + "/" + goal.peer);
+            if (ours == m_medians.end() || peer == m_medians.end())
+                continue;
+            const double ratio = ours->second / peer->second;
+            std::printf("%-28s %-14s %8.3f %8.2f%s\n", goal.name, goal.peer, ratio, goal.atMost,
+                        ratio > goal.atMost ? "  missed" : "");
+        }
+    }
+
+private:
+    std::map<std::string, double> m_medians;
+};
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    if (!QResource::registerResource(QStringLiteral(NVO_THEME_DIR "/nvo-classic.rcc")))
+        qFatal("the classic theme is not there");
+
+    // The turns of all benchmarks are shuffled, so that a slow second of the machine hits no side alone.
+    std::vector<char *> arguments(argv, argv + argc);
+    std::string defaults[] = {"--benchmark_repetitions=11", "--benchmark_enable_random_interleaving=true",
+                              "--benchmark_report_aggregates_only=true", "--benchmark_min_time=0.05"};
+    for (std::string &option : defaults)
+        arguments.insert(arguments.begin() + 1, option.data());
+    int count = int(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
+        return 2;
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    return 0;
+}
