@@ -13,8 +13,8 @@ namespace NVO {
  * A label that always shows rich text, with bold text and headings in the semibold face, and that can
  * cut a text which does not fit, on one line or several.
  *
- * The label keeps the font size that its owner gave it and adds Css::fontDelta() to it. A click on a link
- * ends at the label, any other click goes on to its parent.
+ * From the first change of the font delta on, the label shows the font size that its owner gave it until then
+ * plus Css::fontDelta(). A click on a link ends at the label, any other click goes on to its parent.
  */
 class NVO_EXPORT Label : public QLabel
 {

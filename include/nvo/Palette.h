@@ -6,8 +6,7 @@
 #include <QHash>
 #include <QPalette>
 #include <QString>
-
-class QVariant;
+#include <QVariantMap>
 
 namespace NVO {
 
@@ -65,8 +64,8 @@ protected:
 private:
     static QColor fromVariant(const QVariant &value);
     static bool hasOnlyUpperLetters(const QString &text);
-    void readNamed();
-    void readRoles();
+    void readNamed(const QVariantMap &values);
+    void readRoles(const QVariantMap &values, QPalette::ColorGroup group);
     bool resolve(const QString &token, const QString &name);
     QHash<QString, QString> reparseMissingColors(const QHash<QString, QString> &missing);
 

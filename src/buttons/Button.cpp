@@ -206,9 +206,7 @@ void Button::initStyleSheet()
         break;
     }
 
-    // The size first: with a sheet on it, a change of font makes Qt parse the sheet.
-    StyleSupport::applyFontSize(this, ElementButton, fontVariant);
-    StyleSupport::applySheet(this, ElementButton, StyleSupport::enumKey(m_buttonStyle));
+    StyleSupport::applyStyle(this, ElementButton, StyleSupport::enumKey(m_buttonStyle), fontVariant);
 
     setFocusPolicy(m_buttonStyle == Menu ? Qt::NoFocus : Qt::StrongFocus);
 

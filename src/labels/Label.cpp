@@ -85,15 +85,22 @@ bool Label::event(QEvent *event)
 
 void Label::updateFontSizes()
 {
-    if (m_basePixelSize == -1)
-        m_basePixelSize = QFontInfo(font()).pixelSize(); // a font given in points has no pixel size
-    const int wanted = m_basePixelSize + Css::instance().fontDelta();
+    if (m_basePixelSize == -1) {
+        m_basePixelSize = font().pixelSize();
+        if (m_basePixelSize == -1) // a font given in points
+            m_basePixelSize = QFontInfo(font()).pixelSize();
+    }
+    const int wanted = StyleSupport::scaled(m_basePixelSize);
     if (wanted != font().pixelSize())
         StyleSupport::setPixelSize(this, wanted);
 }
 
 void Label::mousePressEvent(QMouseEvent *event)
 {
+    // The text may have changed under a mouse that stands still.
+    QMouseEvent hover(QEvent::MouseMove, event->localPos(), event->windowPos(), event->screenPos(),
+                      Qt::NoButton, Qt::NoButton, event->modifiers());
+    QLabel::mouseMoveEvent(&hover);
     QLabel::mousePressEvent(event);
     if (m_linkHovered)
         event->accept();

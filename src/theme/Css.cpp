@@ -119,6 +119,15 @@ QHash<QString, QString> fontWords()
             {QStringLiteral("LIGHT"), font.light()}};
 }
 
+QString textWithImports(const QString &path)
+{
+    QString text = Css::readFromReference(path);
+    const QStringList targets = Css::imports(text);
+    for (const QString &target : targets)
+        text += Css::readFromReference(target);
+    return text;
+}
+
 bool reachedByApplicationFont(const QWidget *widget)
 {
     return std::any_of(fontClasses.begin(), fontClasses.end(),
@@ -147,11 +156,9 @@ void sendApplicationFontChange()
 class Css::Private
 {
 public:
-    QString build(Css &css, const QString &path) const;
-
-    int fontDelta = 0;
-    std::array<std::optional<QString>, resourcePaths.size()> sheets;
-    std::optional<WordTable> words;
+    int m_fontDelta = 0;
+    std::array<std::optional<QString>, resourcePaths.size()> m_sheets;
+    std::optional<WordTable> m_words;
 };
 
 Css &Css::instance()
@@ -171,29 +178,20 @@ QString Css::css(Element element)
     const auto index = std::size_t(element);
     if (index >= resourcePaths.size())
         return QString();
-    std::optional<QString> &sheet = d->sheets[index];
+    std::optional<QString> &sheet = d->m_sheets[index];
     if (!sheet)
-        sheet = d->build(*this, QString::fromLatin1(resourcePaths[index]));
+        sheet = replaceCss(textWithImports(QString::fromLatin1(resourcePaths[index])));
     return *sheet;
-}
-
-QString Css::Private::build(Css &css, const QString &path) const
-{
-    QString text = readFromReference(path);
-    const QStringList targets = imports(text);
-    for (const QString &target : targets)
-        text += readFromReference(target);
-    return css.replaceCss(text);
 }
 
 QString Css::replaceCss(const QString &text)
 {
-    if (!d->words) {
-        d->words.emplace();
-        d->words->addPass(colorWords());
-        d->words->addPass(fontWords());
+    if (!d->m_words) {
+        d->m_words.emplace();
+        d->m_words->addPass(colorWords());
+        d->m_words->addPass(fontWords());
     }
-    QString result = d->words->expand(text);
+    QString result = d->m_words->expand(text);
     result.replace(QLatin1String("[os=\"windows\"]"), QLatin1String());
     return result;
 }
@@ -241,14 +239,14 @@ QString Css::replaceBoldTags(const QString &html) const
 
 int Css::fontDelta() const
 {
-    return d->fontDelta;
+    return d->m_fontDelta;
 }
 
 void Css::setFontDelta(int delta)
 {
-    if (delta == d->fontDelta)
+    if (delta == d->m_fontDelta)
         return;
-    d->fontDelta = delta;
+    d->m_fontDelta = delta;
     if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
         return;
 
@@ -261,9 +259,9 @@ void Css::setFontDelta(int delta)
 
 void Css::reset()
 {
-    d->words.reset();
+    d->m_words.reset();
     Palette::instance().init();
-    d->sheets.fill(std::nullopt);
+    d->m_sheets.fill(std::nullopt);
 }
 
 } // namespace NVO

@@ -1,9 +1,7 @@
 #include <nvo/Font.h>
 
-#include "theme/IniSection.h"
+#include "theme/IniResource.h"
 #include "theme/StyleSupport.h"
-
-#include <nvo/Css.h>
 
 namespace NVO {
 
@@ -57,23 +55,23 @@ Font &Font::instance()
 
 int Font::fontSize(FontSize size) const
 {
-    static IniSection sizes(QStringLiteral(":/Font"), QStringLiteral("Size"));
-    return sizes.values().value(StyleSupport::enumKey(size)).toInt();
+    static IniResource sizes(QStringLiteral(":/Font"));
+    return sizes.section(QStringLiteral("Size")).value(StyleSupport::enumKey(size)).toInt();
 }
 
 int Font::fontSizeByElement(Element element, const QString &variant) const
 {
-    static IniSection elements(QStringLiteral(":/FontSizes"), QStringLiteral("Element"));
+    static IniResource elements(QStringLiteral(":/FontSizes"));
     const QString key = sizeKey(element, variant);
     if (key.isNull())
         return fontSize(DEFAULT);
-    const QByteArray step = elements.values().value(key).toString().toLatin1();
+    const QByteArray step = elements.section(QStringLiteral("Element")).value(key).toString().toLatin1();
     return fontSize(FontSize(QMetaEnum::fromType<FontSize>().keyToValue(step)));
 }
 
 int Font::scaledFontSizeByElement(Element element, const QString &variant) const
 {
-    return fontSizeByElement(element, variant) + Css::instance().fontDelta();
+    return StyleSupport::scaled(fontSizeByElement(element, variant));
 }
 
 QString Font::normal() const

@@ -1,6 +1,6 @@
 #include <nvo/Palette.h>
 
-#include "theme/IniSection.h"
+#include "theme/IniResource.h"
 #include "theme/StyleSupport.h"
 
 #include <QDebug>
@@ -43,11 +43,6 @@ constexpr std::array<QPalette::ColorRole, 19> colorRoles{
     QPalette::LinkVisited,
 };
 
-QVariantMap sectionValues(const char *section)
-{
-    return IniSection(QStringLiteral(":/Palette"), QString::fromLatin1(section)).values();
-}
-
 } // namespace
 
 Palette &Palette::instance()
@@ -65,8 +60,12 @@ void Palette::init()
 {
     m_namedColors.clear();
     m_namedGradients.clear();
-    readNamed();
-    readRoles();
+    IniResource resource(QStringLiteral(":/Palette"));
+    readNamed(resource.section(QStringLiteral("Named")));
+
+    m_palette = qGuiApp ? QGuiApplication::palette() : QPalette();
+    for (const auto &[section, group] : colorGroups)
+        readRoles(resource.section(QString::fromLatin1(section)), group);
 }
 
 QColor Palette::namedColor(const QString &name) const
@@ -80,10 +79,9 @@ void Palette::setNamedColors(const QHash<QString, QColor> &colors)
         m_namedColors = colors;
 }
 
-void Palette::readNamed()
+void Palette::readNamed(const QVariantMap &values)
 {
     QHash<QString, QString> missing;
-    const QVariantMap values = sectionValues("Named");
     for (auto value = values.cbegin(); value != values.cend(); ++value) {
         const QString text = value->toString();
         if (!text.isEmpty() && hasOnlyUpperLetters(text)) {
@@ -108,16 +106,12 @@ void Palette::readNamed()
     }
 }
 
-void Palette::readRoles()
+void Palette::readRoles(const QVariantMap &values, QPalette::ColorGroup group)
 {
-    m_palette = qGuiApp ? QGuiApplication::palette() : QPalette();
-    for (const auto &[section, group] : colorGroups) {
-        const QVariantMap values = sectionValues(section);
-        for (const QPalette::ColorRole role : colorRoles) {
-            const QColor color = fromVariant(values.value(StyleSupport::enumKey(role)));
-            if (color.isValid())
-                m_palette.setColor(group, role, color);
-        }
+    for (const QPalette::ColorRole role : colorRoles) {
+        const QColor color = fromVariant(values.value(StyleSupport::enumKey(role)));
+        if (color.isValid())
+            m_palette.setColor(group, role, color);
     }
 }
 

@@ -6,8 +6,12 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFont>
+#include <QPointer>
 #include <QStyle>
+#include <QVector>
 #include <QWidget>
+
+#include <limits>
 
 namespace NVO::StyleSupport {
 
@@ -38,18 +42,30 @@ void applySheet(QWidget *widget, Element element)
     widget->removeEventFilter(&blocker);
 }
 
-void applySheet(QWidget *widget, Element element, const QString &style)
-{
-    const QString sheet = Css::instance().css(element);
-    if (widget->property("style") == style && widget->styleSheet() == sheet)
-        return;
-    widget->setProperty("style", style);
-    applySheet(widget, element);
-}
-
 void applyFontSize(QWidget *widget, Element element, const QString &variant)
 {
     setPixelSize(widget, Font::instance().scaledFontSizeByElement(element, variant));
+}
+
+void applyStyle(QWidget *widget, Element element, const QString &style, const QString &fontVariant)
+{
+    // A change of font makes Qt parse the sheet that is there, so before the first show the font comes first.
+    const bool polished = widget->testAttribute(Qt::WA_WState_Polished);
+    if (!polished)
+        applyFontSize(widget, element, fontVariant);
+    if (widget->property("style") != style || widget->styleSheet() != Css::instance().css(element)) {
+        widget->setProperty("style", style);
+        applySheet(widget, element);
+    }
+    if (polished)
+        applyFontSize(widget, element, fontVariant);
+}
+
+int scaled(int pixelSize)
+{
+    const qint64 size = qint64(pixelSize) + Css::instance().fontDelta();
+    return int(
+        qBound(qint64(std::numeric_limits<int>::min()), size, qint64(std::numeric_limits<int>::max())));
 }
 
 void setPixelSize(QWidget *widget, int pixelSize)
@@ -70,19 +86,25 @@ void repolish(QWidget *widget)
 {
     if (!widget->testAttribute(Qt::WA_WState_Polished))
         return; // sees the properties when it is polished
+    const QPointer<QWidget> alive(widget);
     QStyle *style = widget->style();
     style->unpolish(widget);
     style->polish(widget);
     QEvent event(QEvent::StyleChange);
     QCoreApplication::sendEvent(widget, &event);
     // A rule may ask for a property of an ancestor.
-    repolish(widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly));
+    if (alive)
+        repolish(widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly));
 }
 
 void repolish(const QList<QWidget *> &widgets)
 {
-    for (QWidget *widget : widgets)
-        repolish(widget);
+    // What one widget does when its style changes may be the end of another.
+    const QVector<QPointer<QWidget>> living(widgets.begin(), widgets.end());
+    for (const QPointer<QWidget> &widget : living) {
+        if (widget)
+            repolish(widget);
+    }
 }
 
 } // namespace NVO::StyleSupport

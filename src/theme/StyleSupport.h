@@ -14,14 +14,19 @@ namespace NVO::StyleSupport {
 /** Gives \a widget the finished sheet of \a element. */
 void applySheet(QWidget *widget, Element element);
 
-/**
- * The same for a widget with styles: publishes \a style, the key of its style, as the dynamic property
- * "style" before. Does nothing if the widget has that property and that sheet, which costs a parse less.
- */
-void applySheet(QWidget *widget, Element element, const QString &style);
-
 /** Gives the font of \a widget the pixel size of \a element; sizes of 0 or less are left out. */
 void applyFontSize(QWidget *widget, Element element, const QString &variant = QString());
+
+/**
+ * The whole look of a widget with styles: publishes \a style, the key of its style, as the dynamic property
+ * "style" and gives it sheet and font size. A widget that has that property and that sheet is not given them
+ * again, which would make Qt parse the sheet again.
+ */
+void applyStyle(QWidget *widget, Element element, const QString &style,
+                const QString &fontVariant = QString());
+
+/** \a pixelSize with Css::fontDelta() added. */
+int scaled(int pixelSize);
 
 /** Gives the font of \a widget \a pixelSize; sizes of 0 or less are left out. */
 void setPixelSize(QWidget *widget, int pixelSize);

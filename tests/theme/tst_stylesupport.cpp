@@ -57,15 +57,15 @@ void TestStyleSupport::sheetIsSetOnce()
     const TestResources theme({{"Button", "QPushButton[style=\"B\"] { padding-left: 30px; }\n"}});
     NVO::Css::instance().reset();
     EventCounter<QPushButton> button;
-    StyleSupport::applySheet(&button, NVO::ElementButton, "A");
+    StyleSupport::applyStyle(&button, NVO::ElementButton, "A");
     button.show();
     QVERIFY(StyleSupport::isStyleSheetStyled(&button));
     const int width = button.sizeHint().width();
 
     button.counts.clear();
-    StyleSupport::applySheet(&button, NVO::ElementButton, "A");
+    StyleSupport::applyStyle(&button, NVO::ElementButton, "A");
     QCOMPARE(button.counts[QEvent::StyleChange], 0);
-    StyleSupport::applySheet(&button, NVO::ElementButton, "B");
+    StyleSupport::applyStyle(&button, NVO::ElementButton, "B");
     QCOMPARE(button.counts[QEvent::StyleChange], 1);
     QVERIFY(button.sizeHint().width() > width);
     QVERIFY(!StyleSupport::isStyleSheetStyled(std::make_unique<QWidget>().get()));
@@ -95,8 +95,7 @@ void TestStyleSupport::sameLookAsPlainSheet()
     NVO::Css::instance().reset();
 
     QPushButton ours("Text");
-    StyleSupport::applyFontSize(&ours, NVO::ElementButton);
-    StyleSupport::applySheet(&ours, NVO::ElementButton, "X");
+    StyleSupport::applyStyle(&ours, NVO::ElementButton, "X");
 
     QPushButton plain("Text");
     plain.setProperty("style", "X");
