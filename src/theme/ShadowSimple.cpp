@@ -69,11 +69,11 @@ void ShadowSimple::paintEvent(QPaintEvent *)
     if (!m_host || !m_target)
         return;
     bool dirty = true;
-    if (!targetShows()) {
-        if (m_shadowEnabled)
-            startHiddenCheckTimer();
-    } else if (m_shadowEnabled) {
+    if (m_shadowEnabled && !targetShows())
+        startHiddenCheckTimer();
+    else
         stopHiddenCheckTimer();
+    if (m_shadowEnabled && targetShows()) {
         coverHost();
         paintShadow(dirty);
     }
