@@ -3,6 +3,8 @@
 #include <QObject>
 #include <QStringList>
 
+#include <utility>
+
 /** Writes down the signals of several objects in the order in which they come. */
 class SignalRecorder : public QObject
 {

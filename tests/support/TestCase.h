@@ -6,13 +6,14 @@
  * The base of all test classes.
  *
  * A Qt warning that a test does not expect fails the test program, by what it prints; what the platform
- * plugin says of itself is kept out of that.
+ * plugin says of itself is kept out of that. The two slots are final, so that no test hides them: what it
+ * needs once it sets up in its constructor.
  */
 class TestCase : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
+    virtual void initTestCase() final;
+    virtual void cleanupTestCase() final;
 };

@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QDataStream>
+#include <QHash>
 #include <QImage>
 #include <QResource>
 
@@ -9,25 +10,15 @@
 
 namespace {
 
-/** The hash by which the resource tree sorts its names. */
-quint32 nameHash(const QString &name)
-{
-    quint32 hash = 0;
-    for (const QChar character : name) {
-        hash = (hash << 4) + character.unicode();
-        hash ^= (hash & 0xf0000000U) >> 23;
-        hash &= 0x0fffffffU;
-    }
-    return hash;
-}
-
 /** A binary resource collection of the first format with all \a files in the root directory. */
 QByteArray resourceCollection(const QMap<QString, QByteArray> &files)
 {
     QStringList names = files.keys();
+    // The tree is sorted by the hash of the names.
     std::sort(names.begin(), names.end(),
-              [](const QString &a, const QString &b) { return nameHash(a) < nameHash(b); });
+              [](const QString &a, const QString &b) { return qt_hash(a) < qt_hash(b); });
 
+    QByteArray collection;
     QByteArray tree;
     QByteArray data;
     QByteArray strings;
@@ -35,23 +26,20 @@ QByteArray resourceCollection(const QMap<QString, QByteArray> &files)
     QDataStream dataStream(&data, QIODevice::WriteOnly);
     QDataStream stringStream(&strings, QIODevice::WriteOnly);
 
-    constexpr quint16 directory = 2;
-    treeStream << quint32(0) << directory << quint32(names.size()) << quint32(1);
+    // The root directory: no name, kind 2.
+    treeStream << quint32(0) << quint16(2) << quint32(names.size()) << quint32(1);
     stringStream << quint16(0) << quint32(0);
     for (const QString &name : qAsConst(names)) {
-        constexpr quint16 plainFile = 0;
-        constexpr quint16 anyCountry = 0;
-        constexpr quint16 anyLanguage = 1;
-        treeStream << quint32(strings.size()) << plainFile << anyCountry << anyLanguage
+        // A plain file (kind 0) for any country (0) and any language (1).
+        treeStream << quint32(strings.size()) << quint16(0) << quint16(0) << quint16(1)
                    << quint32(data.size());
-        stringStream << quint16(name.size()) << nameHash(name);
+        stringStream << quint16(name.size()) << qt_hash(name);
         for (const QChar character : name)
             stringStream << character.unicode();
         dataStream << files.value(name);
     }
 
     constexpr int headerSize = 20;
-    QByteArray collection;
     QDataStream stream(&collection, QIODevice::WriteOnly);
     stream.writeRawData("qres", 4);
     stream << quint32(1) << quint32(headerSize) << quint32(headerSize + tree.size() + strings.size())
@@ -79,23 +67,14 @@ void TestResources::set(const QString &name, const QByteArray &content)
     exchange();
 }
 
-void TestResources::remove(const QString &name)
-{
-    m_files.remove(name);
-    exchange();
-}
-
 QByteArray TestResources::png(int width, int height, const QList<quint32> &columns)
 {
-    QImage image(width, height, QImage::Format_ARGB32);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x)
-            image.setPixel(x, y, columns.at(x * columns.size() / width));
-    }
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    image.save(&buffer, "PNG");
-    return bytes;
+    QImage image(columns.size(), 1, QImage::Format_ARGB32);
+    for (int x = 0; x < columns.size(); ++x)
+        image.setPixel(x, 0, columns[x]);
+    QBuffer buffer;
+    image.scaled(width, height).save(&buffer, "PNG");
+    return buffer.data();
 }
 
 void TestResources::exchange()

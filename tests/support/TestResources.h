@@ -19,7 +19,6 @@ public:
     TestResources &operator=(const TestResources &) = delete;
 
     void set(const QString &name, const QByteArray &content);
-    void remove(const QString &name);
 
     /** A PNG of one colour per column, for use with set(). */
     static QByteArray png(int width, int height, const QList<quint32> &columns);

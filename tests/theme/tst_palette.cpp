@@ -1,163 +1,111 @@
 #include "TestCase.h"
 #include "TestResources.h"
 
+#include "theme/StyleSupport.h"
+
 #include <nvo/Palette.h>
 
+#include <QApplication>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QtTest>
 
-using NVO::Palette;
+#include <utility>
+
+static NVO::Palette &palette = NVO::Palette::instance();
 
 class TestPalette : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void values_data();
-    void values();
-    void referencesInAnyOrder();
-    void unresolvedReferences();
-    void missingResource();
-    void sameSizeAndTime();
-    void setNamedColors();
-    void rolesOfPalette();
+    void values()
+    {
+        read("[Named]\nH=#102030\nN=DarkRed\nT=10, 20, 30\nF=10, 20, 30, 40\nTWO=10, 20\nHIGH=1, 2, 300\n"
+             "G=\"g(x1:0, 0 A)\"\nA=COLOR_2\nB=#12\nE=\n");
+        const QHash<QString, QColor> colors{
+            {"H", "#102030"}, {"N", "#8b0000"}, {"T", "#0a141e"}, {"F", "#280a141e"}};
+        const QHash<QString, QString> gradients{{"TWO", ""},           {"HIGH", ""},     {"B", "#12"},
+                                                {"G", "g(x1:0, 0 A)"}, {"A", "COLOR_2"}, {"E", ""}};
+        QCOMPARE(palette.namedColors(), colors);
+        QCOMPARE(palette.namedGradients(), gradients);
+    }
+
+    void referencesInAnyOrder()
+    {
+        QRandomGenerator random(11);
+        for (int round = 0; round < 60; ++round) {
+            // A chain through tokens with random names, which decide on the order of reading.
+            QStringList tokens;
+            const bool gradient = random.bounded(2) == 0;
+            QString value = gradient ? "\"g(1, 2)\"" : "10, 11, 12, 77";
+            QString ini = "[Named]\n";
+            for (int i = 0; i < 12; ++i) {
+                tokens += QChar('A' + random.bounded(26)) + QString(i, '_');
+                ini += tokens.last() + '=' + std::exchange(value, tokens.last()) + '\n';
+            }
+            read(ini.toLatin1());
+            for (const QString &token : qAsConst(tokens)) {
+                QCOMPARE(palette.namedColor(token), gradient ? QColor() : QColor(10, 11, 12, 77));
+                QCOMPARE(palette.namedGradients().value(token), gradient ? QString("g(1, 2)") : QString());
+            }
+        }
+    }
+
+    void unresolvedReferences()
+    {
+        const QRegularExpression message(
+            "^NVO::Palette: reparseMissingColors couldn't replace QHash\\("
+            "(\\(\"(A\", \"B|B\", \"A|RED\", \"RED|N\", \"NOWHERE)\"\\)){4}\\)$");
+        QTest::ignoreMessage(QtDebugMsg, message);
+        read("[Named]\nA=B\nB=A\nRED=RED\nN=NOWHERE\nC=red\nD=C\n");
+        QCOMPARE(palette.namedColors(), (QHash<QString, QColor>{{"C", Qt::red}, {"D", Qt::red}}));
+    }
+
+    void contentsChange()
+    {
+        read("[Named]\nA=#111111\nG=g\n");
+        palette.setNamedColors({{"B", Qt::black}});
+        QVERIFY(!palette.namedColor("A").isValid() && palette.namedGradients().contains("G"));
+        read("[Named]\nA=#222222\nG=g\n"); // the same size and time
+        QCOMPARE(palette.namedColors(), (QHash<QString, QColor>{{"A", QColor("#222222")}}));
+        palette.init();
+        QVERIFY(palette.namedColors().isEmpty() && palette.namedGradients().isEmpty());
+    }
+
+    void roles()
+    {
+        const QPalette before = QGuiApplication::palette();
+        QPalette expected = before;
+        QByteArray ini;
+        for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+            ini += '[' + NVO::StyleSupport::enumKey(group).toLatin1() + "]\n";
+            for (int role = QPalette::WindowText; role <= QPalette::ToolTipText; ++role) {
+                ini += NVO::StyleSupport::enumKey(QPalette::ColorRole(role)).toLatin1();
+                ini += '=' + QByteArray::number(role) + ", 2, " + QByteArray::number(group) + ", 200\n";
+                if (role != QPalette::NoRole)
+                    expected.setColor(group, QPalette::ColorRole(role), QColor(role, 2, group, 200));
+            }
+        }
+        read(ini);
+        QCOMPARE(palette.palette(), expected);
+        QCOMPARE(QGuiApplication::palette(), before);
+        QApplication::setPalette(expected); // what the application has now is where the next one starts
+        read("[Active]\nWindow=#010203\nBase=nonsense\n");
+        expected.setColor(QPalette::Active, QPalette::Window, QColor(1, 2, 3));
+        QCOMPARE(palette.palette(), expected);
+        QApplication::setPalette(before);
+        read("");
+        QCOMPARE(palette.palette(), before);
+    }
 
 private:
-    static Palette &read(TestResources &resources, const QByteArray &ini)
+    static void read(const QByteArray &ini)
     {
-        resources.set("Palette", ini);
-        Palette::instance().init();
-        return Palette::instance();
+        const TestResources resources({{"Palette", ini}});
+        palette.init();
     }
 };
-
-void TestPalette::values_data()
-{
-    QTest::addColumn<QByteArray>("value");
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<QString>("gradient");
-
-    const QString none;
-    QTest::newRow("hex") << QByteArray("#102030") << QColor(16, 32, 48) << none;
-    QTest::newRow("name") << QByteArray("red") << QColor(255, 0, 0) << none;
-    QTest::newRow("name in mixed case") << QByteArray("DarkRed") << QColor(139, 0, 0) << none;
-    QTest::newRow("three numbers") << QByteArray("10, 20, 30") << QColor(10, 20, 30) << none;
-    QTest::newRow("four numbers") << QByteArray("10, 20, 30, 40") << QColor(10, 20, 30, 40) << none;
-    QTest::newRow("two numbers") << QByteArray("10, 20") << QColor() << QString("");
-    QTest::newRow("numbers out of range") << QByteArray("10, 20, 300") << QColor() << QString("");
-    QTest::newRow("quoted gradient") << QByteArray("\"qlineargradient(x1:0, stop:0 A)\"") << QColor()
-                                     << QString("qlineargradient(x1:0, stop:0 A)");
-    QTest::newRow("digit is no reference") << QByteArray("COLOR_2") << QColor() << QString("COLOR_2");
-    QTest::newRow("no colour") << QByteArray("#12") << QColor() << QString("#12");
-    QTest::newRow("empty") << QByteArray("") << QColor() << QString("");
-}
-
-void TestPalette::values()
-{
-    QFETCH(QByteArray, value);
-    QFETCH(QColor, color);
-    QFETCH(QString, gradient);
-    TestResources resources;
-    const Palette &palette = read(resources, "[Named]\nCOLOR_2=#ffffff\nT=" + value + "\n");
-    QCOMPARE(palette.namedColor("T"), color);
-    QCOMPARE(palette.namedColors().contains("T"), color.isValid());
-    QCOMPARE(palette.namedGradients().contains("T"), !color.isValid());
-    QCOMPARE(palette.namedGradients().value("T"), gradient);
-}
-
-void TestPalette::referencesInAnyOrder()
-{
-    QRandomGenerator random(11);
-    TestResources resources;
-    for (int round = 0; round < 60; ++round) {
-        // A chain through tokens with random names, which decide on the order of reading.
-        QStringList chain;
-        while (chain.size() < 12) {
-            QString token;
-            for (int i = 0; i < 4; ++i)
-                token += QChar('A' + random.bounded(26));
-            if (!chain.contains(token))
-                chain.append(token);
-        }
-        const bool gradient = random.bounded(2) == 0;
-        QByteArray ini = "[Named]\n" + chain.last().toLatin1() + (gradient ? "=\"g(1, 2)\"\n" : "=#0a0b0c\n");
-        for (int i = 0; i + 1 < chain.size(); ++i)
-            ini += chain[i].toLatin1() + '=' + chain[i + 1].toLatin1() + '\n';
-        const Palette &palette = read(resources, ini);
-        for (const QString &token : qAsConst(chain)) {
-            QCOMPARE(palette.namedColor(token), gradient ? QColor() : QColor(10, 11, 12));
-            QCOMPARE(palette.namedGradients().value(token), gradient ? QString("g(1, 2)") : QString());
-        }
-    }
-}
-
-void TestPalette::unresolvedReferences()
-{
-    TestResources resources;
-    QTest::ignoreMessage(QtDebugMsg,
-                         "NVO::Palette: reparseMissingColors couldn't replace QHash((\"A\", \"NOWHERE\"))");
-    read(resources, "[Named]\nA=NOWHERE\nB=#ffffff\nC=B\n");
-    QCOMPARE(Palette::instance().namedColors(), (QHash<QString, QColor>{{"B", Qt::white}, {"C", Qt::white}}));
-
-    QTest::ignoreMessage(
-        QtDebugMsg,
-        QRegularExpression("^NVO::Palette: reparseMissingColors couldn't replace QHash\\("
-                           "(\\(\"A\", \"B\"\\)|\\(\"B\", \"A\"\\)|\\(\"RED\", \"RED\"\\)){3}\\)$"));
-    read(resources, "[Named]\nA=B\nB=A\nRED=RED\nC=red\n");
-    QCOMPARE(Palette::instance().namedColors().keys(), QStringList{"C"});
-    QVERIFY(Palette::instance().namedGradients().isEmpty());
-}
-
-void TestPalette::missingResource()
-{
-    {
-        TestResources resources;
-        read(resources, "[Named]\nA=#ffffff\n");
-    }
-    Palette::instance().init();
-    QVERIFY(Palette::instance().namedColors().isEmpty());
-    QVERIFY(Palette::instance().namedGradients().isEmpty());
-    QCOMPARE(Palette::instance().namedColor("A"), QColor());
-}
-
-void TestPalette::sameSizeAndTime()
-{
-    TestResources resources;
-    QCOMPARE(read(resources, "[Named]\nA=#111111\n").namedColor("A"), QColor("#111111"));
-    QCOMPARE(read(resources, "[Named]\nA=#222222\n").namedColor("A"), QColor("#222222"));
-}
-
-void TestPalette::setNamedColors()
-{
-    TestResources resources;
-    Palette &palette = read(resources, "[Named]\nA=#111111\nG=\"g(1)\"\n");
-    palette.setNamedColors({{"B", Qt::black}});
-    QCOMPARE(palette.namedColor("A"), QColor());
-    QCOMPARE(palette.namedColor("B"), QColor(Qt::black));
-    QCOMPARE(palette.namedGradients().value("G"), QString("g(1)"));
-    palette.init();
-    QCOMPARE(palette.namedColor("A"), QColor("#111111"));
-    QCOMPARE(palette.namedColor("B"), QColor());
-}
-
-void TestPalette::rolesOfPalette()
-{
-    TestResources resources;
-    const QPalette application = QGuiApplication::palette();
-    const QPalette palette =
-        read(resources, "[Active]\nWindow=#111111\nText=1, 2, 3, 4\nLinkVisited=blue\nBase=nonsense\n"
-                        "[Inactive]\nHighlight=#222222\n[Disabled]\nWindowText=#333333\n")
-            .palette();
-    QPalette expected = application;
-    expected.setColor(QPalette::Active, QPalette::Window, QColor("#111111"));
-    expected.setColor(QPalette::Active, QPalette::Text, QColor(1, 2, 3, 4));
-    expected.setColor(QPalette::Active, QPalette::LinkVisited, QColor("blue"));
-    expected.setColor(QPalette::Inactive, QPalette::Highlight, QColor("#222222"));
-    expected.setColor(QPalette::Disabled, QPalette::WindowText, QColor("#333333"));
-    QCOMPARE(palette, expected);
-    QCOMPARE(QGuiApplication::palette(), application);
-}
 
 QTEST_MAIN(TestPalette)
 #include "tst_palette.moc"

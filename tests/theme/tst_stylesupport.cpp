@@ -1,3 +1,4 @@
+#include "EventCounter.h"
 #include "Guards.h"
 #include "TestCase.h"
 #include "TestResources.h"
@@ -7,145 +8,104 @@
 #include <nvo/Button.h>
 
 #include <QLabel>
-#include <QPushButton>
 #include <QtTest>
 
 namespace StyleSupport = NVO::StyleSupport;
-
-namespace {
-
-/** Knows which events it was sent; has no meta-object of its own, like most subclasses in applications. */
-template <typename Base>
-class EventCounter : public Base
-{
-public:
-    using Base::Base;
-
-    bool event(QEvent *event) override
-    {
-        ++counts[event->type()];
-        return Base::event(event);
-    }
-
-    QHash<int, int> counts;
-};
-
-} // namespace
 
 class TestStyleSupport : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void enumKeys();
-    void sheetIsSetOnce();
-    void subclassIsPolishedAsEver();
-    void sameLookAsPlainSheet();
-    void fontSizes();
-    void repolishReachesDescendants();
+    void sheetIsSetOnce()
+    {
+        const TestResources theme({{"Button", "* { color: red; }\n"}});
+        NVO::Css::instance().reset();
+        EventCounter<NVO::Button> made;
+        made.show();
+        QCOMPARE(made.counts[QEvent::Polish], 1); // comes to subclasses, that is after the constructor
+        EventCounter<QPushButton> button;
+        StyleSupport::applyStyle(&button, NVO::ElementButton, "A");
+        button.show();
+        StyleSupport::applyStyle(&button, NVO::ElementButton, "A");
+        QCOMPARE(button.counts[QEvent::StyleChange], 0); // neither before the first show nor without a change
+        StyleSupport::applyStyle(&button, NVO::ElementButton, "B");
+        QCOMPARE(button.counts[QEvent::StyleChange], 1);
+        QCOMPARE(StyleSupport::enumKey(NVO::Button::ButtonStyle(99)), QString());
+    }
+
+    void sameLookAsPlainSheet()
+    {
+        // A widget that gets its sheet through us looks like one that was given the same sheet by hand.
+        const QByteArray sheet =
+            "* { border: 2px solid black; padding: 3px 7px; font-weight: 700; min-width: 40px; }"
+            "*[style=\"X\"] { color: blue; background: yellow; margin: 1px; }\n";
+        const TestResources theme({{"Button", sheet},
+                                   {"Font", "[Size]\nDEFAULT=17\n"},
+                                   {"FontSizes", "[Element]\nButton=DEFAULT\n"}});
+        NVO::Css::instance().reset();
+        QPushButton ours("Text");
+        StyleSupport::applyStyle(&ours, NVO::ElementButton, "X");
+        QPushButton plain("Text");
+        plain.setProperty("style", "X");
+        plain.setStyleSheet(NVO::Css::instance().css(NVO::ElementButton));
+        StyleSupport::setPixelSize(&plain, 17);
+        for (const int none : {0, -4})
+            StyleSupport::setPixelSize(&ours, none);
+        QCOMPARE(ours.grab().toImage(), plain.grab().toImage());
+        QCOMPARE(ours.font(), plain.font());
+    }
+
+    void repolishReachesDescendants()
+    {
+        EventCounter<QWidget> window;
+        window.setStyleSheet(
+            "*[mood=\"glad\"] QLabel { color: #0f0; } QLabel[mood=\"sad\"] { color: #00f; }");
+        EventCounter<QWidget> middle(&window);
+        EventCounter<QLabel> label(&middle);
+        const auto repolished = [&](const QList<QWidget *> &widgets) {
+            for (auto *counts : {&window.counts, &middle.counts, &label.counts})
+                counts->clear();
+            StyleSupport::repolish(widgets);
+            constexpr auto type = QEvent::StyleChange;
+            return QList<int>{window.counts[type], middle.counts[type], label.counts[type]};
+        };
+        QCOMPARE(repolished({&window}), (QList<int>{0, 0, 0})); // is still to be polished
+        window.show();
+        const auto color = [&label] { return label.palette().color(QPalette::WindowText); };
+        QVERIFY(StyleSupport::isStyleSheetStyled(&label));
+        window.setProperty("mood", "glad");
+        QCOMPARE(repolished({&window}), (QList<int>{1, 1, 1}));
+        QCOMPARE(color(), QColor(Qt::green));
+        window.setProperty("mood", QVariant());
+        QCOMPARE(repolished({&window, &middle}), (QList<int>{1, 2, 2}));
+        QCOMPARE(color(), QPalette().color(QPalette::WindowText));
+        label.setProperty("mood", "sad");
+        QCOMPARE(repolished({&label}), (QList<int>{0, 0, 1}));
+        QCOMPARE(color(), QColor(Qt::blue));
+    }
+
+    void repolishAmongWidgetsThatDie()
+    {
+        const QPointer<QWidget> window = new QWidget;
+        QList<EventCounter<QWidget> *> children;
+        for (int i = 0; i < 41; ++i)
+            children.append(new EventCounter<QWidget>(window));
+        window->show();
+        for (int i = 0; i < 41; ++i) {
+            children[i]->deadly = QEvent::StyleChange;
+            children[i]->victim = children[i == 40 ? 40 : i ^ 1]; // each other, the last one itself
+        }
+        StyleSupport::repolish(window);
+        QCOMPARE(window->children().size(), 20);
+        auto *last = new EventCounter<QWidget>(window);
+        last->show();
+        last->deadly = QEvent::StyleChange;
+        last->victim = window;
+        StyleSupport::repolish(window);
+        QVERIFY(window.isNull());
+    }
 };
-
-void TestStyleSupport::enumKeys()
-{
-    QCOMPARE(StyleSupport::enumKey(NVO::Button::FlyoutCloseDark), QString("FlyoutCloseDark"));
-    QCOMPARE(StyleSupport::enumKey(NVO::Button::ButtonStyle(99)), QString());
-    QCOMPARE(StyleSupport::enumKey(QPalette::WindowText), QString("WindowText"));
-}
-
-void TestStyleSupport::sheetIsSetOnce()
-{
-    const TestResources theme({{"Button", "QPushButton[style=\"B\"] { padding-left: 30px; }\n"}});
-    NVO::Css::instance().reset();
-    EventCounter<QPushButton> button;
-    StyleSupport::applyStyle(&button, NVO::ElementButton, "A");
-    button.show();
-    QVERIFY(StyleSupport::isStyleSheetStyled(&button));
-    const int width = button.sizeHint().width();
-
-    button.counts.clear();
-    StyleSupport::applyStyle(&button, NVO::ElementButton, "A");
-    QCOMPARE(button.counts[QEvent::StyleChange], 0);
-    StyleSupport::applyStyle(&button, NVO::ElementButton, "B");
-    QCOMPARE(button.counts[QEvent::StyleChange], 1);
-    QVERIFY(button.sizeHint().width() > width);
-    QVERIFY(!StyleSupport::isStyleSheetStyled(std::make_unique<QWidget>().get()));
-}
-
-void TestStyleSupport::subclassIsPolishedAsEver()
-{
-    const TestResources theme({{"Button", "NVO--Button { color: #010203; }\n"}});
-    NVO::Css::instance().reset();
-    EventCounter<NVO::Button> button;
-    QCOMPARE(button.counts[QEvent::Polish], 0);
-    button.ensurePolished();
-    QCOMPARE(button.counts[QEvent::Polish], 1);
-    QCOMPARE(button.palette().color(QPalette::ButtonText), QColor(1, 2, 3));
-    button.show();
-    QCOMPARE(button.counts[QEvent::Polish], 1);
-}
-
-void TestStyleSupport::sameLookAsPlainSheet()
-{
-    // A widget that gets its sheet through us looks like one that was given the same sheet by hand.
-    const QByteArray sheet =
-        "QPushButton { border: 2px solid black; padding: 3px 7px; font-weight: 700; min-width: 40px; }\n"
-        "QPushButton[style=\"X\"] { color: blue; background: yellow; margin: 1px; }\n";
-    const TestResources theme(
-        {{"Button", sheet}, {"Font", "[Size]\nDEFAULT=17\n"}, {"FontSizes", "[Element]\nButton=DEFAULT\n"}});
-    NVO::Css::instance().reset();
-
-    QPushButton ours("Text");
-    StyleSupport::applyStyle(&ours, NVO::ElementButton, "X");
-
-    QPushButton plain("Text");
-    plain.setProperty("style", "X");
-    plain.setStyleSheet(NVO::Css::instance().css(NVO::ElementButton));
-    QFont font = plain.font();
-    font.setPixelSize(17);
-    plain.setFont(font);
-
-    ours.resize(120, 40);
-    plain.resize(120, 40);
-    QCOMPARE(ours.grab().toImage(), plain.grab().toImage());
-    QCOMPARE(ours.sizeHint(), plain.sizeHint());
-    QCOMPARE(ours.font(), plain.font());
-}
-
-void TestStyleSupport::fontSizes()
-{
-    QLabel label;
-    StyleSupport::setPixelSize(&label, 23);
-    QCOMPARE(label.font().pixelSize(), 23);
-    StyleSupport::setPixelSize(&label, 0);
-    StyleSupport::setPixelSize(&label, -4);
-    StyleSupport::applyFontSize(&label, NVO::ElementButton); // no tables: size 0
-    QCOMPARE(label.font().pixelSize(), 23);
-}
-
-void TestStyleSupport::repolishReachesDescendants()
-{
-    QWidget window;
-    window.setStyleSheet(
-        "QWidget[mood=\"glad\"] QLabel { color: #00ff00; } QLabel[mood=\"sad\"] { color: #0000ff; }");
-    QLabel child(&window);
-    auto *middle = new QWidget(&window);
-    QLabel grandchild(middle);
-    window.show();
-    const auto colors = [&] {
-        return QList<QColor>{child.palette().color(QPalette::WindowText),
-                             grandchild.palette().color(QPalette::WindowText)};
-    };
-    const QColor before = colors().first();
-
-    window.setProperty("mood", "glad");
-    StyleSupport::repolish(&window);
-    QCOMPARE(colors(), (QList<QColor>{QColor("#00ff00"), QColor("#00ff00")}));
-
-    window.setProperty("mood", QVariant());
-    grandchild.setProperty("mood", "sad");
-    StyleSupport::repolish({&window, &grandchild});
-    QCOMPARE(colors(), (QList<QColor>{before, QColor("#0000ff")}));
-}
 
 QTEST_MAIN(TestStyleSupport)
 #include "tst_stylesupport.moc"
