@@ -24,6 +24,21 @@ public:
     bool eventFilter(QObject *, QEvent *event) override { return event->type() == QEvent::StyleChange; }
 };
 
+/** Gives a widget its style, null for none, its sheet and its font size, as far as they change. */
+void applyLook(QWidget *widget, Element element, const QVariant &style, const QString &fontVariant)
+{
+    // A change of font makes Qt parse the sheet that is there, so before the first show the font comes first.
+    const bool polished = widget->testAttribute(Qt::WA_WState_Polished);
+    if (!polished)
+        applyFontSize(widget, element, fontVariant);
+    if (widget->property("style") != style || widget->styleSheet() != Css::instance().css(element)) {
+        widget->setProperty("style", style);
+        applySheet(widget, element);
+    }
+    if (polished)
+        applyFontSize(widget, element, fontVariant);
+}
+
 } // namespace
 
 void applySheet(QWidget *widget, Element element)
@@ -49,16 +64,21 @@ void applyFontSize(QWidget *widget, Element element, const QString &variant)
 
 void applyStyle(QWidget *widget, Element element, const QString &style, const QString &fontVariant)
 {
-    // A change of font makes Qt parse the sheet that is there, so before the first show the font comes first.
-    const bool polished = widget->testAttribute(Qt::WA_WState_Polished);
-    if (!polished)
-        applyFontSize(widget, element, fontVariant);
-    if (widget->property("style") != style || widget->styleSheet() != Css::instance().css(element)) {
-        widget->setProperty("style", style);
-        applySheet(widget, element);
-    }
-    if (polished)
-        applyFontSize(widget, element, fontVariant);
+    applyLook(widget, element, style, fontVariant);
+}
+
+void applyStyle(QWidget *widget, Element element)
+{
+    applyLook(widget, element, widget->property("style"), QString());
+}
+
+QPixmap iconPixmap(const QIcon &icon, const QSize &size, const QWidget *widget, QIcon::Mode mode)
+{
+    if (QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps))
+        return icon.pixmap(widget->window()->windowHandle(), size, mode, QIcon::Off);
+    QPixmap pixmap = icon.pixmap(size * widget->devicePixelRatioF(), mode, QIcon::Off);
+    pixmap.setDevicePixelRatio(widget->devicePixelRatioF());
+    return pixmap;
 }
 
 int scaled(int pixelSize)

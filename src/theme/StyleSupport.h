@@ -2,8 +2,10 @@
 
 #include <nvo/Element.h>
 
+#include <QIcon>
 #include <QList>
 #include <QMetaEnum>
+#include <QPixmap>
 #include <QString>
 
 class QWidget;
@@ -24,6 +26,15 @@ void applyFontSize(QWidget *widget, Element element, const QString &variant = QS
  */
 void applyStyle(QWidget *widget, Element element, const QString &style,
                 const QString &fontVariant = QString());
+
+/** The same for a widget without styles. */
+void applyStyle(QWidget *widget, Element element);
+
+/**
+ * The pixmap of \a icon for a place of \a size on \a widget, sharp on its screen whatever the attributes of
+ * the application.
+ */
+QPixmap iconPixmap(const QIcon &icon, const QSize &size, const QWidget *widget, QIcon::Mode mode);
 
 /** \a pixelSize with Css::fontDelta() added. */
 int scaled(int pixelSize);

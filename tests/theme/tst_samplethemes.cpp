@@ -89,14 +89,19 @@ private Q_SLOTS:
 
     void sheets()
     {
-        const QString sheet = NVO::Css::instance().css(NVO::ElementButton);
-        QCss::StyleSheet parsed;
-        QVERIFY(!sheet.isEmpty() && QCss::Parser(sheet).parse(&parsed, Qt::CaseSensitive));
-        const QStringList targets = NVO::Css::imports(sheet);
-        for (const QString &target : targets)
-            QVERIFY2(QFile::exists(target), qPrintable(target));
         const QRegularExpression tokens("\\b((BASE)?COLOR|GRADIENT)_\\w+|\\b(SEMI)?(BOLD|LIGHT)\\b");
-        QVERIFY2(!sheet.contains(tokens), qPrintable(tokens.match(sheet).captured()));
+        for (const NVO::Element element :
+             {NVO::ElementButton, NVO::ElementRibbon, NVO::ElementRibbonButton, NVO::ElementRibbonCheckBox,
+              NVO::ElementRibbonGroup, NVO::ElementRibbonGroupButton, NVO::ElementRibbonGroupObject,
+              NVO::ElementRibbonLabel}) {
+            const QString sheet = NVO::Css::instance().css(element);
+            QCss::StyleSheet parsed;
+            QVERIFY(!sheet.isEmpty() && QCss::Parser(sheet).parse(&parsed, Qt::CaseSensitive));
+            const QStringList targets = NVO::Css::imports(sheet);
+            for (const QString &target : targets)
+                QVERIFY2(QFile::exists(target), qPrintable(target));
+            QVERIFY2(!sheet.contains(tokens), qPrintable(tokens.match(sheet).captured()));
+        }
     }
 };
 

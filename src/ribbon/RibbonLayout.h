@@ -1,0 +1,50 @@
+#pragma once
+
+#include <nvo/RibbonControl.h>
+#include <nvo/RibbonLayoutHelper.h>
+
+#include <QLayout>
+#include <QList>
+#include <QVector>
+
+namespace NVO {
+
+/**
+ * The layout of a ribbon page: groups side by side, opened from the left as far as the width allows. Its
+ * items may be widgets that are no controls. Spare width stays empty at the right.
+ */
+class RibbonLayout : public QLayout
+{
+    Q_OBJECT
+
+public:
+    explicit RibbonLayout(QWidget *p_parent);
+    ~RibbonLayout() override;
+
+    void addItem(QLayoutItem *p_item) override;
+    int count() const override { return m_items.count(); }
+    QLayoutItem *itemAt(int p_index) const override;
+    QLayoutItem *takeAt(int p_index) override;
+
+    QSize sizeHint() const override;
+    QSize minimumSize() const override;
+    QSize maximumSize() const override;
+    void setGeometry(const QRect &p_rect) override;
+
+    /** The widgets whose controls are visible, and those that are no controls, in order. */
+    QList<QWidget *> visibleWidgets() const;
+
+private:
+    struct Item
+    {
+        QLayoutItem *layoutItem;
+        RibbonControl *control; // null for a foreign widget
+    };
+
+    RibbonLayoutHelper row() const;
+    void doLayout();
+
+    QVector<Item> m_items;
+};
+
+} // namespace NVO

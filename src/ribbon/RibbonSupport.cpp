@@ -1,0 +1,47 @@
+#include "ribbon/RibbonSupport.h"
+
+#include <nvo/Action.h>
+#include <nvo/Ribbon.h>
+
+#include <QLabel>
+
+namespace NVO::RibbonSupport {
+
+namespace {
+
+constexpr int keytipSize = 20;
+
+} // namespace
+
+QString indexKey(const QWidget *widget, const Action *action)
+{
+    const Ribbon *ribbon = Ribbon::findRibbon(widget);
+    return ribbon ? ribbon->replaceMacroText(action->macroIndexkey()).toUpper() : action->macroIndexkey();
+}
+
+QString indexEntry(const QWidget *widget, const Action *action)
+{
+    return action->valueName() + QLatin1Char(' ') + indexKey(widget, action) + QLatin1Char(' ')
+           + action->executeText();
+}
+
+QLabel *createKeytip(QWidget *parent, const QString &objectName, const QString &text)
+{
+    auto *label = new QLabel(text, parent);
+    label->setObjectName(objectName);
+    label->setFixedSize(keytipSize, keytipSize);
+    label->setFocusPolicy(Qt::NoFocus);
+    label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    return label;
+}
+
+void silenceDescendants(QObject *receiver)
+{
+    const QList<QObject *> descendants = receiver->findChildren<QObject *>();
+    for (QObject *descendant : descendants) {
+        QObject::disconnect(descendant, nullptr, receiver, nullptr);
+        descendant->removeEventFilter(receiver);
+    }
+}
+
+} // namespace NVO::RibbonSupport
