@@ -43,9 +43,7 @@ QString shortcutText(const Action *action)
 
 QString tooltipTitle(const Action *action)
 {
-    QString title = action->text();
-    title.replace(QLatin1String("<br>"), QLatin1String(" "));
-    title.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    QString title = RibbonSupport::singleLine(action);
     if (!action->shortcut().isEmpty()) {
         QString key = action->shortcut().toString(QKeySequence::NativeText);
         if (key.isEmpty())

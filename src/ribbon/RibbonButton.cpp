@@ -1,5 +1,6 @@
 #include <nvo/RibbonButton.h>
 
+#include "ribbon/RibbonSupport.h"
 #include "theme/StyleSupport.h"
 
 #include <nvo/Action.h>
@@ -212,6 +213,7 @@ void RibbonButton::setActionParams(bool p_skipVisible)
     setChecked(m_action->isChecked());
     setText(m_action->text().replace(QLatin1String("<br>"), QLatin1String("\n")));
     setIcon(m_action->icon());
+    setAccessibleName(RibbonSupport::singleLine(m_action));
     setToolTip(Ribbon::createTooltip(m_action, this));
 }
 

@@ -1,5 +1,6 @@
 #include <nvo/RibbonCheckBox.h>
 
+#include "ribbon/RibbonSupport.h"
 #include "theme/StyleSupport.h"
 
 #include <nvo/Action.h>
@@ -98,6 +99,7 @@ void RibbonCheckBox::setActionParams(bool p_skipVisible)
         setVisible(controlVisible());
     setEnabled(m_action->isEnabled());
     setText(m_action->text().remove(QLatin1String("<br>")));
+    setAccessibleName(RibbonSupport::singleLine(m_action));
     setToolTip(Ribbon::createTooltip(m_action, this));
 }
 

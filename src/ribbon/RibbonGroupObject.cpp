@@ -122,7 +122,7 @@ QString RibbonGroupObject::imageName() const
 {
     const Ribbon *ribbon = Ribbon::findRibbon(this);
     const QString icon = m_action->macroIconname();
-    const QString name = ribbon ? ribbon->replaceMacroText(icon) : icon;
+    QString name = ribbon ? ribbon->replaceMacroText(icon) : icon;
     if (name.isEmpty() || name.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
         return name;
     return QStringLiteral("nvo://%1/PIXMAP/%2").arg(ribbon ? ribbon->getPictureDllName() : QString(), name);

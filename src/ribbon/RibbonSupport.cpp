@@ -13,6 +13,14 @@ constexpr int keytipSize = 20;
 
 } // namespace
 
+QString singleLine(const Action *action)
+{
+    QString text = action->text();
+    text.replace(QLatin1String("<br>"), QLatin1String(" "));
+    text.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    return text;
+}
+
 QString indexKey(const QWidget *widget, const Action *action)
 {
     const Ribbon *ribbon = Ribbon::findRibbon(widget);

@@ -13,6 +13,9 @@ class Action;
 
 namespace RibbonSupport {
 
+/** The text of an action on a single line, each line break of it a blank. */
+QString singleLine(const Action *action);
+
 /** The key of an action as it is shown and typed, in upper case; as it stands where there is no ribbon. */
 QString indexKey(const QWidget *widget, const Action *action);
 
