@@ -17,10 +17,16 @@ bool Gallery::open(const Theme &theme, const QString &page)
         m_error = QStringLiteral("theme not found or not readable: %1").arg(m_loader.fileName(theme));
         return false;
     }
+    if (!m_pictures.draw()) {
+        m_error = QStringLiteral("pictures cannot be written to the folder for temporary files");
+        return false;
+    }
     auto window = std::make_unique<MainWindow>(theme);
     window->setCurrentPage(page);
-    if (m_window)
+    if (m_window) {
+        window->setOptions(m_window->options());
         window->setGeometry(m_window->geometry());
+    }
     window->setWindowState(m_window ? m_window->windowState() : Qt::WindowNoState);
     window->show();
     m_window = std::move(window);

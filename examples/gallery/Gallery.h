@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PictureLibrary.h"
 #include "Theme.h"
 
 #include <QObject>
@@ -33,6 +34,7 @@ private:
     void switchTheme(const QString &key);
 
     ThemeLoader m_loader;
+    PictureLibrary m_pictures;
     std::unique_ptr<MainWindow> m_window;
     QString m_error;
 };

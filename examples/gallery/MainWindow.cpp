@@ -1,17 +1,17 @@
 #include "MainWindow.h"
 
+#include "GalleryRibbon.h"
+#include "KeytipDriver.h"
 #include "PageRegistry.h"
 #include "pages/Page.h"
 #include "pages/PageSupport.h"
 
-#include <nvo/Button.h>
 #include <nvo/Css.h>
 #include <nvo/Label.h>
 
-#include <QButtonGroup>
-#include <QGridLayout>
+#include <QFrame>
 #include <QHBoxLayout>
-#include <QListWidget>
+#include <QMessageBox>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSlider>
@@ -25,6 +25,7 @@ namespace {
 constexpr QSize firstSize(1180, 800);
 constexpr int minimumTitleWidth = 60;
 constexpr int sliderWidth = 110;
+constexpr int headerPadding = 6;
 
 QString deltaText(int delta)
 {
@@ -37,7 +38,7 @@ QString deltaText(int delta)
 MainWindow::MainWindow(const Theme &theme, QWidget *parent)
     : QWidget(parent)
     , m_theme(theme)
-    , m_pageList(new QListWidget)
+    , m_ribbon(new GalleryRibbon(GalleryRibbon::Use::Window))
     , m_pages(new QStackedWidget)
 {
     setObjectName(QStringLiteral("frame"));
@@ -46,22 +47,21 @@ MainWindow::MainWindow(const Theme &theme, QWidget *parent)
     setStyleSheet(NVO::Css::instance().replaceCss(
         NVO::Css::readFromReference(QStringLiteral(":/gallery/sheets/MainWindow"))));
 
-    auto *layout = new QGridLayout(this);
+    auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_pageList, 0, 0, 2, 1);
-    layout->addWidget(makeHeader(), 0, 1);
-    layout->addWidget(m_pages, 1, 1);
-    layout->setColumnStretch(1, 1);
-    layout->setRowStretch(1, 1);
+    layout->addWidget(m_ribbon);
+    m_header = makeHeader();
+    layout->addWidget(m_header);
+    layout->addWidget(m_pages, 1);
 
-    fillPageList();
-    connect(m_pageList, &QListWidget::currentRowChanged, this, &MainWindow::showPage);
-    m_pageList->setFocus();
+    connectRibbon();
+    showTheme();
+    new KeytipDriver(m_ribbon);
     resize(firstSize);
 }
 
-QWidget *MainWindow::makeHeader()
+QFrame *MainWindow::makeHeader()
 {
     auto *header = new QFrame;
     header->setObjectName(QStringLiteral("header"));
@@ -70,50 +70,99 @@ QWidget *MainWindow::makeHeader()
     m_title->enableElide(true);
     m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_title->setMinimumWidth(minimumTitleWidth);
+    m_lastCommand = makeCaption(QString());
+    m_lastCommand->enableElide(true);
+    m_lastCommand->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_lastCommand->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 
     auto *layout = new QHBoxLayout(header);
-    layout->setContentsMargins(pageMargin, 12, pageMargin, 12);
+    layout->setContentsMargins(pageMargin, headerPadding, pageMargin, headerPadding);
     layout->setSpacing(8);
-    layout->addWidget(m_title, 1);
-    addThemeSwitch(layout);
+    layout->addWidget(m_title, 2);
+    layout->addWidget(m_lastCommand, 1);
+    m_lastCommand->hide();
     layout->addSpacing(16);
     addFontDelta(layout);
     return header;
 }
 
-void MainWindow::addThemeSwitch(QHBoxLayout *layout)
+void MainWindow::connectRibbon()
 {
-    layout->addWidget(makeCaption(QStringLiteral("Darstellung")));
-    m_themeButtons = new QButtonGroup(this);
-    for (int index = 0; index < themes().size(); ++index) {
-        const Theme &theme = themes().at(index);
-        auto *button = new NVO::Button;
-        button->setText(theme.title);
-        button->setCheckable(true);
-        m_themeButtons->addButton(button, index);
-        layout->addWidget(button);
-        connect(button, &NVO::Button::clicked, this, [this, theme] {
-            if (theme.key != m_theme.key)
-                Q_EMIT themeRequested(theme.key);
-        });
+    connect(m_ribbon, &GalleryRibbon::fileRequested, this, &MainWindow::showAbout);
+    connect(m_ribbon, &GalleryRibbon::pageRequested, this, &MainWindow::setCurrentPage);
+    connect(m_ribbon, &GalleryRibbon::commandTriggered, this, &MainWindow::runCommand);
+    connect(m_ribbon, &GalleryRibbon::optionChanged, this, &MainWindow::changeOption);
+}
+
+void MainWindow::runCommand(const QString &name)
+{
+    m_lastCommand->hide();
+    if (name.startsWith(themeCommand)) {
+        const QString theme = name.mid(themeCommand.size());
+        showTheme();
+        if (theme != m_theme.key)
+            Q_EMIT themeRequested(theme);
+    } else if (name == largerCommand) {
+        m_fontDelta->setValue(m_fontDelta->value() + 1);
+    } else if (name == smallerCommand) {
+        m_fontDelta->setValue(m_fontDelta->value() - 1);
+    } else if (name == resetFontCommand) {
+        m_fontDelta->setValue(0);
+    } else if (name == aboutCommand) {
+        showAbout();
+    } else {
+        const QVector<CommandEntry> &commands = commandEntries();
+        const auto entry =
+            std::find_if(commands.begin(), commands.end(),
+                         [&name](const CommandEntry &command) { return command.name == name; });
+        if (entry != commands.end() && entry->page.isEmpty()) {
+            m_lastCommand->setText(QStringLiteral("Gewählt: %1").arg(entry->plainText()));
+            m_lastCommand->show();
+        }
     }
-    showTheme();
+}
+
+void MainWindow::changeOption(const QString &name, bool on)
+{
+    if (name == headerOption)
+        m_header->setVisible(on);
+}
+
+QStringList MainWindow::options() const
+{
+    return m_ribbon->options();
+}
+
+void MainWindow::setOptions(const QStringList &names)
+{
+    m_ribbon->setOptions(names);
+}
+
+void MainWindow::showAbout()
+{
+    auto *box = new QMessageBox(QMessageBox::Information, QStringLiteral("Über die Galerie"),
+                                QStringLiteral("Die Galerie zeigt die Bedienelemente von NvoSdkGui in ihren "
+                                               "beiden Themen."),
+                                QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
 }
 
 void MainWindow::showTheme()
 {
-    m_themeButtons->button(themeKeys().indexOf(m_theme.key))->setChecked(true);
+    m_ribbon->markTheme(m_theme.key);
 }
 
 void MainWindow::focusTheme()
 {
-    m_themeButtons->checkedButton()->setFocus();
+    m_ribbon->focusCommand(themeCommand + m_theme.key);
 }
 
 void MainWindow::addFontDelta(QHBoxLayout *layout)
 {
     const int delta = NVO::Css::instance().fontDelta();
     auto *slider = new QSlider(Qt::Horizontal);
+    m_fontDelta = slider;
     slider->setObjectName(QStringLiteral("fontDelta"));
     slider->setAccessibleName(QStringLiteral("Schriftgröße"));
     slider->setToolTip(QStringLiteral("Zuschlag auf alle Schriftgrößen"));
@@ -133,34 +182,23 @@ void MainWindow::addFontDelta(QHBoxLayout *layout)
     });
 }
 
-void MainWindow::fillPageList()
-{
-    m_pageList->setObjectName(QStringLiteral("pageList"));
-    m_pageList->setAccessibleName(QStringLiteral("Seiten"));
-    m_pageList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_pageList->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-    m_pageList->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    m_pageList->setMinimumWidth(190);
-    for (const PageEntry &page : pageEntries())
-        m_pageList->addItem(page.title);
-}
-
 void MainWindow::setCurrentPage(const QString &key)
 {
-    m_pageList->setCurrentRow(std::max(pageKeys().indexOf(key), 0));
+    showPage(std::max(pageKeys().indexOf(key), 0));
 }
 
 QString MainWindow::currentPage() const
 {
-    return pageKeys().value(m_pageList->currentRow());
+    return pageKeys().value(m_currentPage);
 }
 
 void MainWindow::showPage(int index)
 {
-    if (index < 0)
-        return;
+    m_currentPage = index;
     m_title->setText(pageEntries().at(index).title);
+    m_ribbon->markPage(pageEntries().at(index).key);
     m_pages->setCurrentWidget(pageView(index));
+    pageView(index)->setFocus();
 }
 
 /** Pages are made when they are first looked at. */
@@ -179,7 +217,7 @@ QScrollArea *MainWindow::pageView(int index)
 
 void MainWindow::fitToPage(QSize minimum)
 {
-    QScrollArea *view = m_pageViews.value(m_pageList->currentRow());
+    QScrollArea *view = m_pageViews.value(m_currentPage);
     view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     layout()->activate();
     const QSize frame = size() - view->viewport()->size();

@@ -3,11 +3,12 @@
 #include "Theme.h"
 
 #include <QHash>
+#include <QStringList>
 #include <QWidget>
 
-class QButtonGroup;
+class GalleryRibbon;
+class QFrame;
 class QHBoxLayout;
-class QListWidget;
 class QScrollArea;
 class QSlider;
 class QStackedWidget;
@@ -16,7 +17,7 @@ namespace NVO {
 class Label;
 }
 
-/** The frame: the list of pages, a header with title, theme and font size, and the page itself. */
+/** The frame: the ribbon, a strip with the title of the page and the font size, and the page itself. */
 class MainWindow : public QWidget
 {
     Q_OBJECT
@@ -37,22 +38,31 @@ public:
     /** Goes on where the theme has been switched. */
     void focusTheme();
 
+    /** The options of the ribbon that are switched on. */
+    QStringList options() const;
+    void setOptions(const QStringList &names);
+
 Q_SIGNALS:
     void themeRequested(const QString &key);
     void fontDeltaRequested(int delta);
 
 private:
-    QWidget *makeHeader();
-    void addThemeSwitch(QHBoxLayout *layout);
+    QFrame *makeHeader();
     void addFontDelta(QHBoxLayout *layout);
-    void fillPageList();
+    void connectRibbon();
+    void runCommand(const QString &name);
+    void changeOption(const QString &name, bool on);
+    void showAbout();
     void showPage(int index);
     QScrollArea *pageView(int index);
 
     Theme m_theme;
-    QListWidget *m_pageList;
+    GalleryRibbon *m_ribbon;
+    QFrame *m_header = nullptr;
     QStackedWidget *m_pages;
     NVO::Label *m_title = nullptr;
-    QButtonGroup *m_themeButtons = nullptr;
+    NVO::Label *m_lastCommand = nullptr;
+    QSlider *m_fontDelta = nullptr;
+    int m_currentPage = -1;
     QHash<int, QScrollArea *> m_pageViews;
 };

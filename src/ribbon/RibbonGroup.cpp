@@ -87,7 +87,8 @@ RibbonGroup::RibbonGroup(Action *p_action, bool p_popup, QWidget *p_parent)
         createButton();
     RibbonControl::setSizeMode(Large, true);
     setActionParams();
-    setVisible(false); // without a control
+    if (!p_popup)
+        setVisible(false); // without a control
 }
 
 RibbonGroup::~RibbonGroup()

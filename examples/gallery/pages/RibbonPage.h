@@ -1,0 +1,34 @@
+#pragma once
+
+#include "pages/Page.h"
+
+#include <QTimer>
+
+class GalleryRibbon;
+
+/** The ribbon: how it fits itself to its width, its keytips, and the popup of a collapsed group. */
+class RibbonPage : public Page
+{
+    Q_OBJECT
+
+public:
+    static QString key() { return QStringLiteral("ribbon"); }
+    static QString title() { return QStringLiteral("Menüband"); }
+
+    RibbonPage();
+
+protected:
+    bool event(QEvent *event) override;
+
+private:
+    void addWidths();
+    void addKeytips();
+    void addTabs();
+    void addPopups();
+    void showKeytips();
+
+    GalleryRibbon *m_tabKeytips = nullptr;
+    GalleryRibbon *m_controlKeytips = nullptr;
+    GalleryRibbon *m_collapsedKeytips = nullptr;
+    QTimer m_keytipTimer;
+};
