@@ -7,11 +7,13 @@
 #include <QLayout>
 #include <QList>
 #include <QPointer>
-#include <QVector>
+
+#include <memory>
 
 namespace NVO {
 
 class Label;
+class RibbonItemList;
 
 /**
  * The layout of an open ribbon group: controls in columns of up to three, in as few as its width asks for,
@@ -28,7 +30,7 @@ public:
     ~RibbonGroupLayout() override;
 
     void addItem(QLayoutItem *p_item) override;
-    int count() const override { return m_items.count(); }
+    int count() const override;
     /** The item at a position; null out of range. */
     QLayoutItem *itemAt(int p_index) const override;
     /** Takes the item at a position out and gives it to the caller; null out of range. */
@@ -65,16 +67,10 @@ public:
 private:
     class Arrangement;
 
-    struct Item
-    {
-        QLayoutItem *layoutItem;
-        RibbonControl *control; // null for a foreign widget
-    };
-
     void doLayout() const;
     QSize withCaption(QSize size) const;
 
-    QVector<Item> m_items;
+    std::unique_ptr<RibbonItemList> m_items;
     QPointer<Label> m_label;
 };
 

@@ -1,6 +1,7 @@
 #include <nvo/RibbonGroupLayout.h>
 
 #include "ribbon/RibbonGeometry.h"
+#include "ribbon/RibbonItemList.h"
 #include "theme/StyleSupport.h"
 
 #include <nvo/Label.h>
@@ -21,8 +22,8 @@ public:
     explicit Arrangement(const RibbonGroupLayout &layout)
         : m_spacing(layout.spacing())
     {
-        for (const Item &item : layout.m_items) {
-            if (item.control && !item.control->controlVisible())
+        for (const RibbonItemList::Item &item : *layout.m_items) {
+            if (!item.isVisible())
                 continue;
             m_items.append(item);
             RibbonGeometry::Control control;
@@ -49,27 +50,22 @@ public:
         return RibbonGeometry::columnMode(m_controls, column, isOnlyColumn);
     }
 
-    const Item &item(int index) const { return m_items[index]; }
-
-    QSize smallest(int index, RibbonControl::SizeMode mode) const
-    {
-        const Item &own = m_items[index];
-        return own.control ? own.control->sizeFromMode(mode, true) : own.layoutItem->widget()->minimumSize();
-    }
+    const RibbonItemList::Item &item(int index) const { return m_items[index]; }
 
 private:
     RibbonGeometry::SizeOf sizes() const
     {
-        return [this](int index, RibbonControl::SizeMode mode) { return smallest(index, mode); };
+        return [this](int index, RibbonControl::SizeMode mode) { return m_items[index].smallest(mode); };
     }
 
     int m_spacing;
-    QVector<Item> m_items;
+    QVector<RibbonItemList::Item> m_items;
     QVector<RibbonGeometry::Control> m_controls;
 };
 
 RibbonGroupLayout::RibbonGroupLayout(QWidget *p_parent)
     : QLayout(p_parent)
+    , m_items(std::make_unique<RibbonItemList>())
     , m_label(new Label(parentWidget()))
 {
     setSpacing(layoutSpacing);
@@ -81,27 +77,27 @@ RibbonGroupLayout::RibbonGroupLayout(QWidget *p_parent)
 
 RibbonGroupLayout::~RibbonGroupLayout()
 {
-    while (!m_items.isEmpty())
-        delete m_items.takeLast().layoutItem;
-    delete m_label; // makes Qt look through the items
+    delete m_label; // makes Qt look through the items, which are still there
 }
 
 void RibbonGroupLayout::addItem(QLayoutItem *p_item)
 {
-    if (p_item->widget())
-        m_items.append({p_item, dynamic_cast<RibbonControl *>(p_item->widget())});
-    else
-        delete p_item; // a spacer or a layout has no place here
+    m_items->add(p_item);
+}
+
+int RibbonGroupLayout::count() const
+{
+    return m_items->count();
 }
 
 QLayoutItem *RibbonGroupLayout::itemAt(int p_index) const
 {
-    return p_index >= 0 && p_index < m_items.count() ? m_items[p_index].layoutItem : nullptr;
+    return m_items->itemAt(p_index);
 }
 
 QLayoutItem *RibbonGroupLayout::takeAt(int p_index)
 {
-    return p_index >= 0 && p_index < m_items.count() ? m_items.takeAt(p_index).layoutItem : nullptr;
+    return m_items->takeAt(p_index);
 }
 
 QSize RibbonGroupLayout::sizeHint() const
@@ -137,11 +133,7 @@ QSize RibbonGroupLayout::sizeFromMode(RibbonControl::SizeMode p_mode, bool p_min
 {
     if (p_mode == RibbonControl::Small || p_minimum)
         return withCaption(Arrangement(*this).compactSize());
-    RibbonLayoutHelper row;
-    for (const Item &item : m_items)
-        row.append(RibbonLayoutItem(item.layoutItem->widget(), item.control));
-    row.setSpacing(RibbonGeometry::columnGap);
-    return withCaption(row.size(Qt::Horizontal, p_mode, false));
+    return withCaption(m_items->row(RibbonGeometry::columnGap).size(Qt::Horizontal, p_mode, false));
 }
 
 QSize RibbonGroupLayout::withCaption(QSize size) const
@@ -154,12 +146,7 @@ QSize RibbonGroupLayout::withCaption(QSize size) const
 
 QList<QWidget *> RibbonGroupLayout::visibleWidgets() const
 {
-    QList<QWidget *> widgets;
-    for (const Item &item : m_items) {
-        if (!item.control || item.control->controlVisible())
-            widgets.append(item.layoutItem->widget());
-    }
-    return widgets;
+    return m_items->visibleWidgets();
 }
 
 QList<RibbonLayoutHelper> RibbonGroupLayout::getWidgets() const
@@ -171,8 +158,8 @@ QList<RibbonLayoutHelper> RibbonGroupLayout::getWidgets() const
         RibbonLayoutHelper helper;
         helper.setSpacing(column.spacing);
         for (const int control : column.controls) {
-            const Item &item = arrangement.item(control);
-            helper.append(RibbonLayoutItem(item.layoutItem->widget(), item.control));
+            const RibbonItemList::Item &item = arrangement.item(control);
+            helper.append(RibbonLayoutItem(item.widget(), item.control));
         }
         result.append(helper);
     }
@@ -213,13 +200,13 @@ void RibbonGroupLayout::doLayout() const
         const RibbonControl::SizeMode mode = arrangement.modeOf(column, columns.size() == 1);
         int columnWidth = 0;
         for (const int control : column.controls)
-            columnWidth = qMax(columnWidth, arrangement.smallest(control, mode).width());
+            columnWidth = qMax(columnWidth, arrangement.item(control).smallest(mode).width());
         int y = margins.top();
         for (const int control : column.controls) {
-            const Item &item = arrangement.item(control);
+            const RibbonItemList::Item &item = arrangement.item(control);
             if (item.control)
                 item.control->setSizeMode(mode, true);
-            QWidget *widget = item.layoutItem->widget();
+            QWidget *widget = item.widget();
             QSize size = widget->sizeHint();
             if (mode == RibbonControl::Large)
                 size.setHeight(largeHeight);

@@ -10,28 +10,19 @@ RibbonLayout::RibbonLayout(QWidget *p_parent)
     : QLayout(p_parent)
 {}
 
-RibbonLayout::~RibbonLayout()
-{
-    while (!m_items.isEmpty())
-        delete m_items.takeLast().layoutItem;
-}
-
 void RibbonLayout::addItem(QLayoutItem *p_item)
 {
-    if (p_item->widget())
-        m_items.append({p_item, dynamic_cast<RibbonControl *>(p_item->widget())});
-    else
-        delete p_item; // a spacer or a layout has no place here
+    m_items.add(p_item);
 }
 
 QLayoutItem *RibbonLayout::itemAt(int p_index) const
 {
-    return p_index >= 0 && p_index < m_items.count() ? m_items[p_index].layoutItem : nullptr;
+    return m_items.itemAt(p_index);
 }
 
 QLayoutItem *RibbonLayout::takeAt(int p_index)
 {
-    return p_index >= 0 && p_index < m_items.count() ? m_items.takeAt(p_index).layoutItem : nullptr;
+    return m_items.takeAt(p_index);
 }
 
 QSize RibbonLayout::sizeHint() const
@@ -41,7 +32,7 @@ QSize RibbonLayout::sizeHint() const
 
 QSize RibbonLayout::minimumSize() const
 {
-    const RibbonLayoutHelper items = row();
+    const RibbonLayoutHelper items = m_items.row(spacing());
     const QSize large = items.size(Qt::Horizontal, RibbonControl::Large, true);
     const QSize small = items.size(Qt::Horizontal, RibbonControl::Small, true);
     const QMargins margins = contentsMargins();
@@ -51,7 +42,7 @@ QSize RibbonLayout::minimumSize() const
 
 QSize RibbonLayout::maximumSize() const
 {
-    const RibbonLayoutHelper items = row();
+    const RibbonLayoutHelper items = m_items.row(spacing());
     const QSize large = items.size(Qt::Horizontal, RibbonControl::Large, false);
     const QSize small = items.size(Qt::Horizontal, RibbonControl::Small, false);
     const QMargins margins = contentsMargins();
@@ -67,41 +58,24 @@ void RibbonLayout::setGeometry(const QRect &p_rect)
 
 QList<QWidget *> RibbonLayout::visibleWidgets() const
 {
-    QList<QWidget *> widgets;
-    for (const Item &item : m_items) {
-        if (!item.control || item.control->controlVisible())
-            widgets.append(item.layoutItem->widget());
-    }
-    return widgets;
-}
-
-RibbonLayoutHelper RibbonLayout::row() const
-{
-    RibbonLayoutHelper helper;
-    for (const Item &item : m_items)
-        helper.append(RibbonLayoutItem(item.layoutItem->widget(), item.control));
-    helper.setSpacing(spacing());
-    return helper;
+    return m_items.visibleWidgets();
 }
 
 void RibbonLayout::doLayout()
 {
     QVector<RibbonGeometry::Group> groups;
-    for (const Item &item : qAsConst(m_items)) {
+    for (const RibbonItemList::Item &item : qAsConst(m_items)) {
         // What only waits for the page to show gets its place, too: nothing lays it out when it shows.
-        groups.append({!item.layoutItem->widget()->isHidden(),
-                       !item.control || item.control->controlVisible(), item.control != nullptr,
+        groups.append({!item.widget()->isHidden(), item.isVisible(), item.control != nullptr,
                        item.control ? item.control->fixSizeMode() : RibbonControl::Auto});
     }
     RibbonGeometry::GroupSizes sizes;
     sizes.smallest = [this](int group, RibbonControl::SizeMode mode) {
-        const Item &item = m_items[group];
-        return item.control ? item.control->sizeFromMode(mode, true)
-                            : item.layoutItem->widget()->minimumSize();
+        return m_items.at(group).smallest(mode);
     };
-    sizes.preferred = [this](int group) { return m_items[group].layoutItem->widget()->sizeHint(); };
+    sizes.preferred = [this](int group) { return m_items.at(group).widget()->sizeHint(); };
     sizes.open = [this](int group, RibbonControl::SizeMode mode, const QSize &available) {
-        return m_items[group].control->sizeFromMode(mode, available);
+        return m_items.at(group).control->sizeFromMode(mode, available);
     };
 
     const QMargins margins = contentsMargins();
@@ -112,10 +86,10 @@ void RibbonLayout::doLayout()
     for (int i = 0; i < places.size(); ++i) {
         if (!groups[i].shown)
             continue;
-        if (m_items[i].control)
-            m_items[i].control->setSizeMode(places[i].mode, false);
+        if (m_items.at(i).control)
+            m_items.at(i).control->setSizeMode(places[i].mode, false);
         const QRect rect(point, QSize(places[i].size.width(), area.height()));
-        m_items[i].layoutItem->widget()->setGeometry(rect);
+        m_items.at(i).widget()->setGeometry(rect);
         point.rx() += rect.width() + spacing();
     }
 }

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <nvo/RibbonControl.h>
-#include <nvo/RibbonLayoutHelper.h>
+#include "ribbon/RibbonItemList.h"
 
 #include <QLayout>
 #include <QList>
-#include <QVector>
 
 namespace NVO {
 
@@ -19,7 +17,6 @@ class RibbonLayout : public QLayout
 
 public:
     explicit RibbonLayout(QWidget *p_parent);
-    ~RibbonLayout() override;
 
     void addItem(QLayoutItem *p_item) override;
     int count() const override { return m_items.count(); }
@@ -35,16 +32,9 @@ public:
     QList<QWidget *> visibleWidgets() const;
 
 private:
-    struct Item
-    {
-        QLayoutItem *layoutItem;
-        RibbonControl *control; // null for a foreign widget
-    };
-
-    RibbonLayoutHelper row() const;
     void doLayout();
 
-    QVector<Item> m_items;
+    RibbonItemList m_items;
 };
 
 } // namespace NVO

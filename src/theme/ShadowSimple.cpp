@@ -69,11 +69,12 @@ void ShadowSimple::paintEvent(QPaintEvent *)
     if (!m_host || !m_target)
         return;
     bool dirty = true;
-    if (m_shadowEnabled && !targetShows())
+    const bool shows = m_shadowEnabled && targetShows();
+    if (m_shadowEnabled && !shows)
         startHiddenCheckTimer();
     else
         stopHiddenCheckTimer();
-    if (m_shadowEnabled && targetShows()) {
+    if (shows) {
         coverHost();
         paintShadow(dirty);
     }
