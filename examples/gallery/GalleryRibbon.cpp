@@ -257,18 +257,19 @@ bool GalleryRibbon::eventFilter(QObject *watched, QEvent *event)
     return Ribbon::eventFilter(watched, event);
 }
 
-NVO::RibbonGroup *GalleryRibbon::makePopup(const QString &tab, const QString &group, QWidget *parent) const
+NVO::RibbonGroup *GalleryRibbon::makeGroup(const QString &tab, const QString &group, bool popup,
+                                           QWidget *parent) const
 {
     NVO::Action *action = m_groupActions.value(groupName(tab, group));
     if (!action)
         return nullptr;
-    auto *popup = new NVO::RibbonGroup(action, true, parent);
-    popup->setSizeMode(NVO::RibbonControl::Large, false);
+    auto *result = new NVO::RibbonGroup(action, popup, parent);
+    result->setSizeMode(NVO::RibbonControl::Large, false);
     for (const CommandEntry &entry : commandEntries()) {
         if (entry.tab == tab && entry.group == group)
-            popup->addAction(m_commands.value(entry.name));
+            result->addAction(m_commands.value(entry.name));
     }
-    return popup;
+    return result;
 }
 
 QWidget *GalleryRibbon::createExtraWidget()

@@ -38,8 +38,8 @@ public:
     void setOptions(const QStringList &names);
     bool isOn(const QString &option) const { return m_options.contains(option); }
 
-    /** The content of the popup of a group, made for \a parent; null for an unknown group. */
-    NVO::RibbonGroup *makePopup(const QString &tab, const QString &group, QWidget *parent) const;
+    /** Makes a group of the ribbon for \a parent, or the content of its popup; null for an unknown group. */
+    NVO::RibbonGroup *makeGroup(const QString &tab, const QString &group, bool popup, QWidget *parent) const;
 
     QWidget *createExtraWidget() override;
     QString getPictureDllName() const override;

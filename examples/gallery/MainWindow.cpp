@@ -218,11 +218,10 @@ QScrollArea *MainWindow::pageView(int index)
 void MainWindow::fitToPage(QSize minimum)
 {
     QScrollArea *view = m_pageViews.value(m_currentPage);
+    const auto *page = static_cast<Page *>(view->widget());
     view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     layout()->activate();
     const QSize frame = size() - view->viewport()->size();
-    const int pageWidth =
-        std::max(minimum.width() - frame.width(), view->widget()->minimumSizeHint().width());
-    const QSize page(pageWidth, view->widget()->heightForWidth(pageWidth));
-    resize((frame + page).expandedTo(minimum));
+    const int width = std::max(minimum.width() - frame.width(), page->pictureWidth());
+    resize((frame + QSize(width, page->heightForWidth(width))).expandedTo(minimum));
 }

@@ -394,7 +394,7 @@ void Ribbon::setTabBarStyle(bool p_focus)
 
 QWidget *Ribbon::createKeytip(const QString &p_text)
 {
-    return RibbonSupport::createKeytip(this, QStringLiteral("RibbonKeytip"), p_text);
+    return RibbonSupport::createKeytip(this, RibbonSupport::tabKeytip, p_text);
 }
 
 void Ribbon::initStyleSheet()

@@ -1,5 +1,6 @@
 #include <nvo/RibbonButton.h>
 
+#include "ribbon/RibbonAccessible.h"
 #include "ribbon/RibbonSupport.h"
 #include "theme/StyleSupport.h"
 
@@ -48,6 +49,7 @@ RibbonButton::RibbonButton(Action *p_action, QWidget *p_parent)
         connect(this, &QAbstractButton::clicked, p_action, &QAction::triggered);
         connect(p_action, &QAction::changed, this, &RibbonButton::changedAction);
     }
+    RibbonAccessible::install();
     initStyleSheet();
     setActionParams(false);
 }

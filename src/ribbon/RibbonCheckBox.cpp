@@ -1,5 +1,6 @@
 #include <nvo/RibbonCheckBox.h>
 
+#include "ribbon/RibbonAccessible.h"
 #include "ribbon/RibbonSupport.h"
 #include "theme/StyleSupport.h"
 
@@ -25,6 +26,7 @@ RibbonCheckBox::RibbonCheckBox(Action *p_action, QWidget *p_parent)
         connect(p_action, &QAction::changed, this, &RibbonCheckBox::changedAction);
     }
     setMaximumHeight(highest);
+    RibbonAccessible::install();
     initStyleSheet();
     setActionParams(false);
 }

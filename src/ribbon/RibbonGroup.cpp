@@ -1,5 +1,6 @@
 #include <nvo/RibbonGroup.h>
 
+#include "ribbon/RibbonAccessible.h"
 #include "ribbon/RibbonGroupButton.h"
 #include "ribbon/RibbonSupport.h"
 #include "theme/StyleSupport.h"
@@ -70,6 +71,7 @@ RibbonGroup::RibbonGroup(Action *p_action, bool p_popup, QWidget *p_parent)
     , m_action(p_action)
     , m_stackedLayout(new QStackedLayout(this))
 {
+    RibbonAccessible::install();
     m_stackedLayout->setContentsMargins(0, 0, 0, 0);
     auto *panel = new QWidget;
     panel->setStyleSheet(QStringLiteral("background-color: transparent;"));
@@ -253,7 +255,7 @@ void RibbonGroup::showKeytip(QWidget *widget, const Action *action)
 {
     if (action->macroIndexkey().isEmpty() || !Ribbon::findRibbon(this))
         return;
-    QLabel *keytip = RibbonSupport::createKeytip(widget, QStringLiteral("RibbonGroupKeytip"),
+    QLabel *keytip = RibbonSupport::createKeytip(widget, RibbonSupport::controlKeytip,
                                                  RibbonSupport::indexKey(this, action));
     StyleSupport::applySheet(keytip, ElementRibbonGroup);
     keytip->move(0, 0);
@@ -442,8 +444,11 @@ void RibbonGroup::setActionParams()
 {
     if (!m_action)
         return;
+    const QString name = RibbonSupport::singleLine(m_action);
+    setAccessibleName(name);
     if (m_groupButton) {
         m_groupButton->setText(m_action->text());
+        m_groupButton->setAccessibleName(name);
         m_groupButton->setIcon(m_action->icon());
         m_groupButton->setToolTip(m_action->toolTip());
     }

@@ -2,6 +2,7 @@
 
 #include "theme/StyleSupport.h"
 
+#include <QAccessible>
 #include <QFocusEvent>
 #include <QFontMetrics>
 #include <QPainter>
@@ -38,7 +39,14 @@ bool RibbonGroupButton::isOpen() const
 
 void RibbonGroupButton::setOpen(bool p_open)
 {
+    if (p_open == isOpen())
+        return;
     initStyleSheet(p_open);
+    QAccessible::State changed;
+    changed.expanded = true;
+    changed.collapsed = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 QSize RibbonGroupButton::minimumSizeHint() const

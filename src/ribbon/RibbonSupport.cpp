@@ -1,5 +1,7 @@
 #include "ribbon/RibbonSupport.h"
 
+#include "ribbon/RibbonAccessible.h"
+
 #include <nvo/Action.h>
 #include <nvo/Ribbon.h>
 
@@ -33,14 +35,22 @@ QString indexEntry(const QWidget *widget, const Action *action)
            + action->executeText();
 }
 
-QLabel *createKeytip(QWidget *parent, const QString &objectName, const QString &text)
+QLabel *createKeytip(QWidget *parent, QLatin1String objectName, const QString &text)
 {
-    auto *label = new QLabel(text, parent);
+    RibbonAccessible::install();
+    auto *label = new QLabel(parent);
     label->setObjectName(objectName);
+    label->setText(text);
     label->setFixedSize(keytipSize, keytipSize);
     label->setFocusPolicy(Qt::NoFocus);
     label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
     return label;
+}
+
+bool isKeytip(const QObject *object)
+{
+    return qobject_cast<const QLabel *>(object)
+           && (object->objectName() == tabKeytip || object->objectName() == controlKeytip);
 }
 
 void silenceDescendants(QObject *receiver)

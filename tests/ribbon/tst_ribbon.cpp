@@ -435,6 +435,53 @@ private Q_SLOTS:
         QCOMPARE(without.bar(), QString("[A] B"));
     }
 
+    void accessibility()
+    {
+        Fixture f("A:1,2");
+        f.show();
+        const auto seen = [](QWidget *widget) { return QAccessible::queryAccessibleInterface(widget); };
+        const auto texts = [&](QWidget *widget) {
+            return seen(widget)->text(QAccessible::Name) + '|' + seen(widget)->text(QAccessible::Accelerator)
+                   + '|' + seen(widget)->text(QAccessible::Description);
+        };
+        Action *box = f.action("Netto<br>zeigen");
+        box->setControlType(Action::CommandCheckBox);
+        for (QWidget *control : {f.controls[1], f.groups[1]->addAction(box)}) {
+            Action *action = dynamic_cast<RibbonControl *>(control)->action();
+            action->setText("Netto<br>zeigen");
+            action->setToolTip("Hilfe");
+            action->setShortcut(QKeySequence("Ctrl+T"));
+            QCOMPARE(texts(control), QString("Netto zeigen|Ctrl+T|Hilfe"));
+            QCOMPARE(seen(control)->role(), action == box ? QAccessible::CheckBox : QAccessible::Button);
+            QSignalSpy triggered(action, &QAction::triggered);
+            QAccessibleActionInterface *actions = seen(control)->actionInterface();
+            const QString click = actions->actionNames().first();
+            QCOMPARE(actions->keyBindingsForAction(click), QStringList("Ctrl+T"));
+            actions->doAction(click);
+            QTRY_COMPARE(triggered.count(), 1);
+            QCOMPARE(bool(seen(control)->state().checked), action == box);
+            action->setEnabled(false);
+            QVERIFY(seen(control)->state().disabled && !actions->actionNames().contains(click));
+        }
+        f.groups[1]->action()->setText("Zwei<br>Zeilen");
+        f.groups[1]->setSizeMode(RibbonControl::Small, false);
+        QCOMPARE(seen(f.groups[1])->role(), QAccessible::Grouping);
+        QAccessibleInterface *button = seen(f.buttonOf(1));
+        QVERIFY(texts(f.buttonOf(1)).startsWith("Zwei Zeilen||"));
+        QCOMPARE(button->role(), QAccessible::ButtonMenu);
+        QVERIFY(button->state().hasPopup && button->state().collapsed);
+        button->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+        QTRY_VERIFY(f.popupOf(1));
+        QVERIFY(button->state().expanded && !button->state().collapsed);
+        f.popupOf(1)->close();
+
+        f.tabs[0]->showKeytips();
+        f.ribbon->showKeytips();
+        for (QLabel *keytip : f.window.findChildren<QLabel *>(QRegularExpression("Keytip$")))
+            QVERIFY(seen(keytip)->state().invisible && texts(keytip) == "||");
+        QCOMPARE(seen(f.controls[0])->childCount(), 0);
+    }
+
     void popup()
     {
         Fixture f("A:3,2");

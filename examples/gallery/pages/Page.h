@@ -12,6 +12,10 @@ class Page : public QWidget
 {
     Q_OBJECT
 
+public:
+    /** The width at which a picture shows all that the page has to show. */
+    virtual int pictureWidth() const { return minimumSizeHint().width(); }
+
 protected:
     Page();
 

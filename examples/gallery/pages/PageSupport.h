@@ -19,6 +19,7 @@ class Label;
 
 constexpr int pageMargin = 24;
 constexpr int cardPadding = 16;
+constexpr int cardBorder = 1;
 
 /** What a text is to the reader; the sheet of the window gives each its face and colour. */
 enum class LabelRole { Headline, Text, Name, Caption, OnDark, CaptionOnDark, Error };

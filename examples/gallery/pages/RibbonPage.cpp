@@ -2,6 +2,7 @@
 
 #include "GalleryRibbon.h"
 #include "Theme.h"
+#include "pages/ForcedState.h"
 #include "pages/PageSupport.h"
 
 #include <nvo/Label.h>
@@ -9,15 +10,20 @@
 #include <nvo/RibbonGroup.h>
 #include <nvo/RibbonTab.h>
 
+#include <QAbstractButton>
 #include <QEvent>
+#include <QGridLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QVBoxLayout>
 
 namespace {
 
+constexpr QLatin1String bookingTab("Buchen");
 constexpr int narrowWidth = 400;
 constexpr int middleWidth = 700;
 constexpr int wideWidth = 1100;
+constexpr int fullWidth = 1600;
 
 QString currentTheme()
 {
@@ -57,11 +63,14 @@ void showControlKeytips(const GalleryRibbon *ribbon)
 } // namespace
 
 RibbonPage::RibbonPage()
+    : m_source(new GalleryRibbon(GalleryRibbon::Use::Sample, this))
 {
+    m_source->hide();
     addWidths();
     addKeytips();
     addTabs();
     addPopups();
+    addStates();
     m_keytipTimer.setSingleShot(true);
     m_keytipTimer.setInterval(0);
     connect(&m_keytipTimer, &QTimer::timeout, this, &RibbonPage::showKeytips);
@@ -73,8 +82,7 @@ void RibbonPage::addWidths()
         QStringLiteral("Breite"),
         QStringLiteral("Wird der Platz knapp, klappen die Gruppen von rechts her zu. Eine Gruppe mit "
                        "einem einzigen Befehl bleibt offen."));
-    addSample(section, QStringLiteral("So breit wie die Seite"), QWIDGETSIZE_MAX, QStringLiteral("Start"));
-    for (const int width : {wideWidth, middleWidth, narrowWidth})
+    for (const int width : {fullWidth, wideWidth, middleWidth, narrowWidth})
         addSample(section, widthCaption(width), width, QStringLiteral("Start"));
 }
 
@@ -107,17 +115,49 @@ void RibbonPage::addPopups()
     QVBoxLayout *section =
         addSection(QStringLiteral("Aufgeklappte Gruppen"),
                    QStringLiteral("Was sich unter der Schaltfläche einer zugeklappten Gruppe öffnet."));
-    auto *source = new GalleryRibbon(GalleryRibbon::Use::Sample, this);
-    source->hide();
     auto *row = new QHBoxLayout;
     row->setSpacing(pageMargin);
     for (const QString &group : {QStringLiteral("Erfassen"), QStringLiteral("Zahlungen")}) {
-        NVO::RibbonGroup *popup = source->makePopup(QStringLiteral("Buchen"), group, this);
+        NVO::RibbonGroup *popup = m_source->makeGroup(bookingTab, group, true, this);
         popup->setFixedSize(popup->sizeHint());
         row->addLayout(withCaption(popup, group));
     }
+    m_popup = m_source->makeGroup(bookingTab, QStringLiteral("Erfassen"), true, m_source);
+    m_popupKeytips = new QLabel;
+    row->addLayout(withCaption(m_popupKeytips, QStringLiteral("Mit Tastenhinweisen")));
     row->addStretch();
     section->addLayout(row);
+}
+
+void RibbonPage::addStates()
+{
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(pageMargin);
+    grid->setVerticalSpacing(cardPadding);
+    addSection(QStringLiteral("Zustände"), QStringLiteral("Befehle, Ankreuzfelder und zugeklappte Gruppen."))
+        ->addLayout(grid);
+    int column = 0;
+    for (const ForcedState::State state : {ForcedState::Normal, ForcedState::Hover, ForcedState::Pressed,
+                                           ForcedState::Focus, ForcedState::Disabled}) {
+        grid->addWidget(makeCaption(ForcedState::title(state)), 0, column, Qt::AlignHCenter);
+        const QStringList groups{QStringLiteral("Erfassen"), QStringLiteral("Prüfung"),
+                                 QStringLiteral("Zahlungen")};
+        for (const QString &name : groups) {
+            NVO::RibbonGroup *group = m_source->makeGroup(bookingTab, name, false, this);
+            const bool collapsed = name == groups.last();
+            group->setSizeMode(collapsed ? NVO::RibbonControl::Small : NVO::RibbonControl::Large, false);
+            const auto buttons = group->findChildren<QAbstractButton *>();
+            for (QAbstractButton *button : buttons)
+                ForcedState::apply(button, state);
+            grid->addWidget(group, groups.indexOf(name) + 1, column, Qt::AlignCenter);
+        }
+        ++column;
+    }
+}
+
+int RibbonPage::pictureWidth() const
+{
+    return fullWidth + 2 * (pageMargin + cardPadding + cardBorder);
 }
 
 /** Keytips stand on what is visible, and are made anew when that changes. */
@@ -134,4 +174,8 @@ void RibbonPage::showKeytips()
     m_tabKeytips->showKeytips();
     showControlKeytips(m_controlKeytips);
     showControlKeytips(m_collapsedKeytips);
+    // Keytips need the ribbon above them, which a part of the page does not have: hence a picture.
+    m_popup->resize(m_popup->sizeHint());
+    m_popup->showKeytips();
+    m_popupKeytips->setPixmap(m_popup->grab());
 }

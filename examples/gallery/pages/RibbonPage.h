@@ -5,6 +5,11 @@
 #include <QTimer>
 
 class GalleryRibbon;
+class QLabel;
+
+namespace NVO {
+class RibbonGroup;
+}
 
 /** The ribbon: how it fits itself to its width, its keytips, and the popup of a collapsed group. */
 class RibbonPage : public Page
@@ -17,6 +22,8 @@ public:
 
     RibbonPage();
 
+    int pictureWidth() const override;
+
 protected:
     bool event(QEvent *event) override;
 
@@ -25,10 +32,14 @@ private:
     void addKeytips();
     void addTabs();
     void addPopups();
+    void addStates();
     void showKeytips();
 
+    GalleryRibbon *m_source; // of single groups
     GalleryRibbon *m_tabKeytips = nullptr;
     GalleryRibbon *m_controlKeytips = nullptr;
     GalleryRibbon *m_collapsedKeytips = nullptr;
+    NVO::RibbonGroup *m_popup = nullptr;
+    QLabel *m_popupKeytips = nullptr;
     QTimer m_keytipTimer;
 };
