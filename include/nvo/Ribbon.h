@@ -26,6 +26,8 @@ class RibbonTab;
  *
  * The keyboard: the application starts it with toggleKeyfocus() and passes what is typed to selectTabByKey()
  * and selectControlByKey(); areKeytipsVisible() and areControlKeytipsVisible() tell how far it is.
+ *
+ * In a right-to-left layout Qt mirrors the tab bar; groups and controls stay from left to right.
  */
 class NVO_EXPORT Ribbon : public QTabWidget
 {

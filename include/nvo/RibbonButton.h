@@ -64,7 +64,7 @@ private:
     };
 
     void initStyleSheet();
-    void setActionParams(bool p_skipVisible);
+    bool setActionParams();
     QStringList textStringList(SizeMode p_mode) const;
     QSize computedSize(SizeMode p_mode) const;
     void paintIcon(QPainter &painter, const QPoint &position, const QSize &size);

@@ -48,7 +48,7 @@ protected:
 
 private:
     void initStyleSheet();
-    void setActionParams(bool p_skipVisible);
+    bool setActionParams();
 
     QPointer<Action> m_action;
     bool m_elideEnabled = false;

@@ -2,6 +2,7 @@
 
 #include <nvo/Export.h>
 
+#include <QMetaType>
 #include <QSize>
 
 namespace NVO {
@@ -27,8 +28,9 @@ public:
     virtual ~RibbonControl();
 
     /**
-     * Puts the control into a mode and calls onSetSizeModeChanged(). Returns false if it is in that mode
-     * already. A control that is fixed to a mode changes with \a p_force only, and returns true either way.
+     * Puts the control into a mode, Small or Large, and calls onSetSizeModeChanged(). Returns false if it is
+     * in that mode already. A control that is fixed to a mode changes with \a p_force only, and returns true
+     * either way.
      */
     virtual bool setSizeMode(SizeMode p_mode, bool p_force);
 
@@ -68,3 +70,5 @@ private:
 };
 
 } // namespace NVO
+
+Q_DECLARE_METATYPE(NVO::RibbonControl *)

@@ -22,7 +22,8 @@ class RibbonGroupLayout;
  *
  * Its action gives the caption, text, icon and tool tip of the button, the enabled state, and by
  * Action::sizeMode() the modes that its controls are fixed to. Actions are not owned and should outlive the
- * group. The class is also the content of the popup, in a form without a button.
+ * group; without one there are no texts. The class is also the content of the popup, in a form without a
+ * button.
  */
 class NVO_EXPORT RibbonGroup : public QFrame, public RibbonControl
 {
@@ -32,9 +33,11 @@ public:
     RibbonGroup(Action *p_action, bool p_popup, QWidget *p_parent);
     ~RibbonGroup() override;
 
-    /** Adds the control for an action and returns it; null and a debug message for an unknown type. */
+    /**
+     * Adds the control for an action and returns it: null, with a debug message, for an unknown type, and
+     * null for a null action. Hides the function of QWidget.
+     */
     QWidget *addAction(Action *p_action);
-    using QWidget::addAction;
 
     /** The visible controls, in order. */
     QList<QWidget *> visibleWidgets() const;
@@ -59,7 +62,10 @@ public:
     void showKeytips();
     bool areControlKeytipsVisible() const;
 
-    /** Gives the control in a row of the first column the focus, of the last one with \a p_left. */
+    /**
+     * Gives the control in a row of the first column the focus, of the last one with \a p_left; the first
+     * row stands in for one that is not there.
+     */
     void setFocus(bool p_left, int p_row);
     using QWidget::setFocus;
 
@@ -86,9 +92,13 @@ Q_SIGNALS:
 
 public Q_SLOTS:
     void hideKeytips();
+    /** Told when the popup has gone: the button is released. A popup that shows stays. */
     void closePopup();
+    /** Opens the popup of a collapsed group, shows the keytips of an open one. */
     void triggeredAction();
+    /** Takes over what the action is now. */
     void changedAction();
+    /** Takes over that a control has changed. */
     void onVisibleChange(NVO::RibbonControl *p_ribbonControl);
 
 protected:
@@ -104,14 +114,15 @@ private:
     void setActionParams();
     void updateCaption();
     void setUpdateVisible();
+    void closeIfEmpty();
     bool hasSingleControl() const;
     bool isCollapsed() const;
     QList<RibbonControl *> controls() const;
     template <typename Control>
     QWidget *addControl(Control *control);
     void showPopup(bool p_showKeytips);
-    void placePopup();
-    void focusPopup(QWidget *first);
+    void placePopup(RibbonGroup *popup);
+    void focusPopup(const QPointer<RibbonGroup> &popup, QWidget *first);
     void showKeytip(QWidget *widget, const Action *action);
     void moveFocus(int key);
 
@@ -120,7 +131,7 @@ private:
     QStackedLayout *m_stackedLayout;
     RibbonGroupButton *m_groupButton = nullptr;
     RibbonGroupLayout *m_groupLayout;
-    QPointer<RibbonGroup> m_popup;
+    QPointer<QWidget> m_popup;
 };
 
 } // namespace NVO

@@ -29,6 +29,7 @@ public:
     explicit RibbonGroupLayout(QWidget *p_parent = nullptr);
     ~RibbonGroupLayout() override;
 
+    /** Takes an item over. Spacers and layouts are deleted; null is left out. */
     void addItem(QLayoutItem *p_item) override;
     int count() const override;
     /** The item at a position; null out of range. */
@@ -68,10 +69,12 @@ private:
     class Arrangement;
 
     void doLayout() const;
+    void adoptCaption();
     QSize withCaption(QSize size) const;
 
     std::unique_ptr<RibbonItemList> m_items;
     QPointer<Label> m_label;
+    QRect m_area; // unlike geometry() it stands until the next layout
 };
 
 } // namespace NVO

@@ -18,7 +18,7 @@ class Label;
  *
  * The picture is the icon name of the action with its macros replaced. A name that does not end in ".png" is
  * looked for at "nvo://LIBRARY/PIXMAP/NAME" in the picture library of the ribbon; the application serves that
- * scheme. The action is not owned and should outlive the object.
+ * scheme. The action is not owned and should outlive the object; without one there is no picture.
  */
 class NVO_EXPORT RibbonGroupObject : public QFrame, public RibbonControl
 {
@@ -27,9 +27,11 @@ class NVO_EXPORT RibbonGroupObject : public QFrame, public RibbonControl
 public:
     RibbonGroupObject(Action *p_action, QWidget *p_parent);
 
-    /** Adds the control for an action, at the bottom, and returns it; null for an unknown type. */
+    /**
+     * Adds the control for an action, at the bottom, and returns it: null, with a debug message, for an
+     * unknown type, and null for a null action. Hides the function of QWidget.
+     */
     QWidget *addAction(Action *p_action);
-    using QWidget::addAction;
 
     /** The first control whose action has the value name \a p_name, whatever its case; both null if none. */
     QPair<QWidget *, RibbonControl *> getControl(const QString &p_name) const;
@@ -45,7 +47,8 @@ public Q_SLOTS:
 
 private:
     void initStyleSheet();
-    void setActionParams(bool p_skipVisible);
+    void setActionParams();
+    void showPicture(const QString &name);
     QString imageName() const;
 
     Label *m_pixmapLabel;

@@ -40,7 +40,7 @@ protected:
 
 private:
     void initStyleSheet();
-    void setActionParams(bool p_skipVisible);
+    bool setActionParams();
 
     QPointer<Action> m_action;
 };

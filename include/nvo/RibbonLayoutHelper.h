@@ -17,9 +17,12 @@ class NVO_EXPORT RibbonLayoutHelper : public QList<RibbonLayoutItem>
 {
 public:
     RibbonLayoutHelper() = default;
+    /** \name One item for each widget; null items and items without a widget are left out */
+    ///@{
     explicit RibbonLayoutHelper(QWidget *p_widget);
     explicit RibbonLayoutHelper(const QList<QWidget *> &p_widgets);
     explicit RibbonLayoutHelper(const QList<QLayoutItem *> &p_items);
+    ///@}
 
     /** Pixels between two controls; 0 at first. */
     int spacing() const { return m_spacing; }
@@ -27,7 +30,8 @@ public:
 
     /**
      * The size of the visible items in a row or column, with spacing between them. It starts from the
-     * invalid size, so that along the row or column it is one pixel short of the plain sum.
+     * invalid size, so that along the row or column it is one pixel short of the plain sum. Hides the number
+     * of items, which is count().
      */
     QSize size(Qt::Orientation p_orientation, RibbonControl::SizeMode p_mode, bool p_minimum) const;
 
@@ -46,8 +50,8 @@ public:
 
     /**
      * The widget that an arrow key leads to from the one that has the focus. Its row in the column is stored
-     * in \a p_row and kept from column to column, as far as they are long enough. Null at the edge and
-     * without focus.
+     * in \a p_row, which may be null, and kept from column to column, as far as they are long enough. Null at
+     * the edge and without focus.
      */
     static QWidget *nextInColumns(const QList<RibbonLayoutHelper> &p_columns, int p_key, int *p_row);
 

@@ -84,7 +84,8 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    void setActionParams(bool p_skipVisible);
+    void setActionParams();
+    void updateSeparators();
     bool isCurrentPage() const;
     QList<RibbonGroup *> groups() const;
     template <typename Block>

@@ -43,7 +43,7 @@ QString shortcutText(const Action *action)
 
 QString tooltipTitle(const Action *action)
 {
-    QString title = RibbonSupport::singleLine(action);
+    QString title = RibbonSupport::singleLine(action->text());
     if (!action->shortcut().isEmpty()) {
         QString key = action->shortcut().toString(QKeySequence::NativeText);
         if (key.isEmpty())

@@ -51,7 +51,7 @@ RibbonButton::RibbonButton(Action *p_action, QWidget *p_parent)
     }
     RibbonAccessible::install();
     initStyleSheet();
-    setActionParams(false);
+    setActionParams();
 }
 
 QSize RibbonButton::sizeHint() const
@@ -117,9 +117,7 @@ Action *RibbonButton::action() const
 
 void RibbonButton::changedAction()
 {
-    const QPointer<RibbonButton> alive(this);
-    setActionParams(false);
-    if (alive)
+    if (setActionParams())
         Q_EMIT visibleChange(this);
 }
 
@@ -134,14 +132,18 @@ bool RibbonButton::event(QEvent *event)
 
 void RibbonButton::focusInEvent(QFocusEvent *event)
 {
+    const QPointer<RibbonButton> alive(this);
     Q_EMIT focusInOutEvent(event, true);
-    QPushButton::focusInEvent(event);
+    if (alive)
+        QPushButton::focusInEvent(event);
 }
 
 void RibbonButton::focusOutEvent(QFocusEvent *event)
 {
+    const QPointer<RibbonButton> alive(this);
     Q_EMIT focusInOutEvent(event, false);
-    QPushButton::focusOutEvent(event);
+    if (alive)
+        QPushButton::focusOutEvent(event);
 }
 
 void RibbonButton::paintEvent(QPaintEvent *)
@@ -178,7 +180,11 @@ void RibbonButton::paintEvent(QPaintEvent *)
 void RibbonButton::paintIcon(QPainter &painter, const QPoint &position, const QSize &size)
 {
     const QIcon::Mode mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
-    painter.drawPixmap(QRect(position, size), StyleSupport::iconPixmap(icon(), size, this, mode));
+    const QPixmap pixmap = StyleSupport::iconPixmap(icon(), size, this, mode);
+    if (size == largeIcon)
+        painter.drawPixmap(QRect(position, size), pixmap);
+    else
+        painter.drawPixmap(position, pixmap);
 }
 
 /** Paints lines of text in the middle, from \a top downwards. */
@@ -204,19 +210,19 @@ void RibbonButton::initStyleSheet()
     StyleSupport::applyStyle(this, ElementRibbonButton);
 }
 
-void RibbonButton::setActionParams(bool p_skipVisible)
+/** Copies the state of the action; false if that was the end of the button. */
+bool RibbonButton::setActionParams()
 {
-    if (!m_action)
-        return;
-    if (!p_skipVisible)
-        setVisible(controlVisible());
-    setEnabled(m_action->isEnabled());
-    setCheckable(m_action->isCheckable());
-    setChecked(m_action->isChecked());
-    setText(m_action->text().replace(QLatin1String("<br>"), QLatin1String("\n")));
-    setIcon(m_action->icon());
-    setAccessibleName(RibbonSupport::singleLine(m_action));
-    setToolTip(Ribbon::createTooltip(m_action, this));
+    return RibbonSupport::copyState(
+        this, m_action, [this] { setVisible(controlVisible()); },
+        [this] { setEnabled(m_action->isEnabled()); }, [this] { setCheckable(m_action->isCheckable()); },
+        [this] { setChecked(m_action->isChecked()); },
+        [this] {
+            setText(m_action->text().replace(QLatin1String("<br>"), QLatin1String("\n")));
+            if (icon().cacheKey() != m_action->icon().cacheKey())
+                setIcon(m_action->icon());
+            setToolTip(Ribbon::createTooltip(m_action, this));
+        });
 }
 
 } // namespace NVO

@@ -28,7 +28,7 @@ RibbonCheckBox::RibbonCheckBox(Action *p_action, QWidget *p_parent)
     setMaximumHeight(highest);
     RibbonAccessible::install();
     initStyleSheet();
-    setActionParams(false);
+    setActionParams();
 }
 
 void RibbonCheckBox::setElideEnable(bool p_enable)
@@ -61,9 +61,7 @@ Action *RibbonCheckBox::action() const
 
 void RibbonCheckBox::changedAction()
 {
-    const QPointer<RibbonCheckBox> alive(this);
-    setActionParams(false);
-    if (alive)
+    if (setActionParams())
         Q_EMIT visibleChange(this);
 }
 
@@ -78,14 +76,18 @@ bool RibbonCheckBox::event(QEvent *event)
 
 void RibbonCheckBox::focusInEvent(QFocusEvent *event)
 {
+    const QPointer<RibbonCheckBox> alive(this);
     Q_EMIT focusInOutEvent(event, true);
-    QCheckBox::focusInEvent(event);
+    if (alive)
+        QCheckBox::focusInEvent(event);
 }
 
 void RibbonCheckBox::focusOutEvent(QFocusEvent *event)
 {
+    const QPointer<RibbonCheckBox> alive(this);
     Q_EMIT focusInOutEvent(event, false);
-    QCheckBox::focusOutEvent(event);
+    if (alive)
+        QCheckBox::focusOutEvent(event);
 }
 
 void RibbonCheckBox::initStyleSheet()
@@ -93,16 +95,16 @@ void RibbonCheckBox::initStyleSheet()
     StyleSupport::applyStyle(this, ElementRibbonCheckBox);
 }
 
-void RibbonCheckBox::setActionParams(bool p_skipVisible)
+/** Copies the state of the action; false if that was the end of the check box. */
+bool RibbonCheckBox::setActionParams()
 {
-    if (!m_action)
-        return;
-    if (!p_skipVisible)
-        setVisible(controlVisible());
-    setEnabled(m_action->isEnabled());
-    setText(m_action->text().remove(QLatin1String("<br>")));
-    setAccessibleName(RibbonSupport::singleLine(m_action));
-    setToolTip(Ribbon::createTooltip(m_action, this));
+    return RibbonSupport::copyState(
+        this, m_action, [this] { setVisible(controlVisible()); },
+        [this] { setEnabled(m_action->isEnabled()); },
+        [this] {
+            setText(m_action->text().remove(QLatin1String("<br>")));
+            setToolTip(Ribbon::createTooltip(m_action, this));
+        });
 }
 
 } // namespace NVO

@@ -6,7 +6,6 @@
 #include "theme/StyleSupport.h"
 
 #include <nvo/Action.h>
-#include <nvo/Css.h>
 #include <nvo/Ribbon.h>
 #include <nvo/RibbonButton.h>
 #include <nvo/RibbonCheckBox.h>
@@ -300,8 +299,8 @@ QSize RibbonGroup::sizeHint() const
 
 bool RibbonGroup::setSizeMode(SizeMode p_mode, bool p_force)
 {
-    const bool result =
-        RibbonControl::setSizeMode(p_mode == Small && hasSingleControl() ? Large : p_mode, p_force);
+    const SizeMode mode = p_mode == Small && hasSingleControl() ? Large : p_mode;
+    const bool result = RibbonControl::setSizeMode(mode, p_force);
     updateFace(); // a fixed mode may have come without a change
     return result;
 }
@@ -370,8 +369,10 @@ void RibbonGroup::triggeredAction()
 
 void RibbonGroup::changedAction()
 {
+    const QPointer<RibbonGroup> alive(this);
     setActionParams();
-    setUpdateVisible();
+    if (alive)
+        setUpdateVisible();
 }
 
 void RibbonGroup::onVisibleChange(RibbonControl *)
@@ -412,14 +413,18 @@ void RibbonGroup::moveFocus(int key)
 
 void RibbonGroup::focusInEvent(QFocusEvent *event)
 {
+    const QPointer<RibbonGroup> alive(this);
     Q_EMIT focusInOutEvent(event, true);
-    QFrame::focusInEvent(event);
+    if (alive)
+        QFrame::focusInEvent(event);
 }
 
 void RibbonGroup::focusOutEvent(QFocusEvent *event)
 {
+    const QPointer<RibbonGroup> alive(this);
     Q_EMIT focusInOutEvent(event, false);
-    QFrame::focusOutEvent(event);
+    if (alive)
+        QFrame::focusOutEvent(event);
 }
 
 void RibbonGroup::keyPressEvent(QKeyEvent *event)
@@ -444,11 +449,8 @@ void RibbonGroup::setActionParams()
 {
     if (!m_action)
         return;
-    const QString name = RibbonSupport::singleLine(m_action);
-    setAccessibleName(name);
     if (m_groupButton) {
         m_groupButton->setText(m_action->text());
-        m_groupButton->setAccessibleName(name);
         m_groupButton->setIcon(m_action->icon());
         m_groupButton->setToolTip(m_action->toolTip());
     }
@@ -464,12 +466,23 @@ void RibbonGroup::updateCaption()
 
 void RibbonGroup::setUpdateVisible()
 {
-    // A popup is shown once, when it has all its controls; nothing brings it back after it was closed.
-    if (m_groupButton)
+    const QPointer<RibbonGroup> alive(this);
+    if (windowType() != Qt::Popup)
         setVisible(controlVisible());
-    else if (isVisible() && !controlVisible())
-        close();
+    else if (!controlVisible())
+        QMetaObject::invokeMethod(this, &RibbonGroup::closeIfEmpty, Qt::QueuedConnection);
+    if (!alive)
+        return;
+    if (isCollapsed())
+        updateGeometry(); // what changes behind the button reaches nobody else
     Q_EMIT visibleChange(this);
+}
+
+/** A popup goes with its last control, unless a control has come back before the change was over. */
+void RibbonGroup::closeIfEmpty()
+{
+    if (!controlVisible())
+        close();
 }
 
 bool RibbonGroup::hasSingleControl() const
@@ -484,46 +497,54 @@ bool RibbonGroup::isCollapsed() const
 
 void RibbonGroup::showPopup(bool p_showKeytips)
 {
-    if (m_popup || !m_groupButton)
+    if (!m_groupButton || (m_popup && m_popup->isVisible()))
         return;
-    m_popup = new RibbonGroup(m_action, true, this);
-    m_popup->setSizeMode(Large, false);
-    QPointer<QWidget> first;
+    const QPointer<RibbonGroup> popup(new RibbonGroup(m_action, true, this));
+    m_popup = popup;
+    popup->setWindowFlags(Qt::Popup);
+    popup->setAttribute(Qt::WA_DeleteOnClose);
+    popup->setSizeMode(Large, false);
+    QWidget *first = nullptr; // a child of the popup
     const QList<RibbonControl *> all = controls();
     for (const RibbonControl *control : all) {
-        QWidget *widget = m_popup->addAction(control->action());
+        QWidget *widget = popup->addAction(control->action());
         if (!first)
             first = widget;
     }
-    m_popup->setFocusPolicy(Qt::StrongFocus);
+    if (popup->visibleWidgets().isEmpty()) {
+        delete popup;
+        return;
+    }
+    popup->setFocusPolicy(Qt::StrongFocus);
     if (p_showKeytips)
-        m_popup->showKeytips();
+        popup->showKeytips();
     m_groupButton->setOpen(true);
-    m_popup->setAttribute(Qt::WA_DeleteOnClose);
-    m_popup->setWindowFlags(Qt::Popup);
-    placePopup();
-    connect(m_popup, &QObject::destroyed, this, &RibbonGroup::closePopup);
-    m_popup->show();
-    focusPopup(first);
+    placePopup(popup);
+    connect(popup, &QObject::destroyed, this, [this](const QObject *gone) {
+        if (!m_popup || gone == m_popup) // else another one is open by now
+            closePopup();
+    });
+    popup->show();
+    focusPopup(popup, first);
 }
 
-void RibbonGroup::placePopup()
+void RibbonGroup::placePopup(RibbonGroup *popup)
 {
     const QPoint point = m_groupButton->mapToGlobal(QPoint(0, height()));
-    const QSize size = m_popup->sizeHint();
-    m_popup->setGeometry(QRect(QPoint(), size));
-    m_popup->move(screenGeometry(QRect(point, size)));
+    const QSize size = popup->sizeHint();
+    popup->setGeometry(QRect(QPoint(), size));
+    popup->move(screenGeometry(QRect(point, size)));
 }
 
 /** The first control of the popup has the focus; where the mouse did not open it, that is to be seen. */
-void RibbonGroup::focusPopup(QWidget *first)
+void RibbonGroup::focusPopup(const QPointer<RibbonGroup> &popup, QWidget *first)
 {
-    if (!m_popup)
-        return;
-    if (first)
+    if (popup && first)
         first->setFocus();
+    if (!popup)
+        return;
     const bool underMouse = m_groupButton->geometry().contains(m_groupButton->mapFromGlobal(QCursor::pos()));
-    const QList<QWidget *> visible = m_popup->visibleWidgets();
+    const QList<QWidget *> visible = popup->visibleWidgets();
     if (!underMouse && !visible.isEmpty())
         visible.first()->setFocus(Qt::TabFocusReason);
 }

@@ -92,7 +92,7 @@ void RibbonGroupButton::paintEvent(QPaintEvent *)
 
     if (!icon().isNull()) {
         const QIcon::Mode mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
-        painter.drawPixmap(QRect(QPoint((width() - iconPlace.width()) / 2, iconTop), iconPlace),
+        painter.drawPixmap((width() - iconPlace.width()) / 2, iconTop,
                            StyleSupport::iconPixmap(icon(), iconPlace, this, mode));
     }
     if (!text().isEmpty()) {

@@ -118,6 +118,8 @@ QSize RibbonGroupLayout::maximumSize() const
 void RibbonGroupLayout::setGeometry(const QRect &p_rect)
 {
     QLayout::setGeometry(p_rect);
+    m_area = p_rect;
+    adoptCaption();
     doLayout();
 }
 
@@ -153,7 +155,7 @@ QList<RibbonLayoutHelper> RibbonGroupLayout::getWidgets() const
 {
     const Arrangement arrangement(*this);
     QList<RibbonLayoutHelper> result;
-    const auto columns = arrangement.forWidth(geometry().marginsRemoved(contentsMargins()).width());
+    const auto columns = arrangement.forWidth(m_area.marginsRemoved(contentsMargins()).width());
     for (const RibbonGeometry::Column &column : columns) {
         RibbonLayoutHelper helper;
         helper.setSpacing(column.spacing);
@@ -175,10 +177,20 @@ void RibbonGroupLayout::setText(const QString &p_text)
 {
     if (!m_label)
         return;
+    adoptCaption();
     m_label->setText(p_text);
-    m_label->setVisible(!p_text.isEmpty());
-    if (geometry().isValid())
+    m_label->setVisible(!p_text.isEmpty() && m_label->parentWidget());
+    if (m_area.isValid())
         doLayout(); // else it is due anyway
+}
+
+/** A layout may be given its widget after it was made. */
+void RibbonGroupLayout::adoptCaption()
+{
+    if (!m_label || !parentWidget() || m_label->parentWidget() == parentWidget())
+        return;
+    m_label->setParent(parentWidget());
+    m_label->setVisible(!m_label->text().isEmpty());
 }
 
 int RibbonGroupLayout::getCountVerticalControls()
@@ -189,7 +201,7 @@ int RibbonGroupLayout::getCountVerticalControls()
 void RibbonGroupLayout::doLayout() const
 {
     const QMargins margins = contentsMargins();
-    QRect rect = geometry().marginsRemoved(margins);
+    QRect rect = m_area.marginsRemoved(margins);
     const int captionHeight = m_label ? m_label->sizeHint().height() : 0;
     const int largeHeight = rect.height() - captionHeight - spacing();
 

@@ -1,5 +1,6 @@
 #include <nvo/RibbonGroupObject.h>
 
+#include "ribbon/RibbonSupport.h"
 #include "theme/StyleSupport.h"
 
 #include <nvo/Action.h>
@@ -39,7 +40,7 @@ RibbonGroupObject::RibbonGroupObject(Action *p_action, QWidget *p_parent)
     if (p_action)
         connect(p_action, &QAction::changed, this, &RibbonGroupObject::changedAction);
     initStyleSheet();
-    setActionParams(false);
+    setActionParams();
 }
 
 QWidget *RibbonGroupObject::addAction(Action *p_action)
@@ -96,7 +97,7 @@ Action *RibbonGroupObject::action() const
 
 void RibbonGroupObject::changedAction()
 {
-    setActionParams(false);
+    setActionParams();
 }
 
 void RibbonGroupObject::initStyleSheet()
@@ -104,17 +105,19 @@ void RibbonGroupObject::initStyleSheet()
     StyleSupport::applySheet(this, ElementRibbonGroupObject);
 }
 
-void RibbonGroupObject::setActionParams(bool p_skipVisible)
+void RibbonGroupObject::setActionParams()
 {
-    if (!m_action)
-        return;
-    const QString name = imageName();
-    if (!p_skipVisible)
-        m_pixmapLabel->setVisible(!name.isEmpty());
+    RibbonSupport::copyState(
+        this, m_action, [this] { setVisible(controlVisible()); }, [this] { showPicture(imageName()); },
+        [this] { setEnabled(m_action->isEnabled()); });
+}
+
+void RibbonGroupObject::showPicture(const QString &name)
+{
+    m_pixmapLabel->setVisible(!name.isEmpty());
     if (!name.isEmpty())
         m_pixmapLabel->setText(QStringLiteral("<img src=\"%1\" height=\"80\">").arg(name));
     m_pixmapLabel->setContentsMargins(name.isEmpty() ? 0 : pictureMargin, 0, 0, 0);
-    setEnabled(m_action->isEnabled());
 }
 
 /** The name by which rich text finds the picture; empty for none. */

@@ -39,10 +39,11 @@ public:
             delete takeAt(m_items.count() - 1);
     }
 
-    /** Takes an item over. A spacer or a layout has no place in the ribbon and is deleted. */
+    /** Takes an item over. A spacer or a layout has no place in the ribbon and is deleted; null is left out.
+     */
     void add(QLayoutItem *layoutItem)
     {
-        if (layoutItem->widget())
+        if (layoutItem && layoutItem->widget())
             m_items.append({layoutItem, dynamic_cast<RibbonControl *>(layoutItem->widget())});
         else
             delete layoutItem;

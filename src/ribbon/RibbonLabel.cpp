@@ -1,5 +1,7 @@
 #include <nvo/RibbonLabel.h>
 
+#include "ribbon/RibbonAccessible.h"
+#include "ribbon/RibbonSupport.h"
 #include "theme/StyleSupport.h"
 
 #include <nvo/Action.h>
@@ -15,8 +17,9 @@ RibbonLabel::RibbonLabel(Action *p_action, QWidget *p_parent)
 {
     if (p_action)
         connect(p_action, &QAction::changed, this, &RibbonLabel::changedAction);
+    RibbonAccessible::install();
     initStyleSheet();
-    setActionParams(false);
+    setActionParams();
 }
 
 void RibbonLabel::updateLayout()
@@ -36,22 +39,24 @@ Action *RibbonLabel::action() const
 
 void RibbonLabel::changedAction()
 {
-    const QPointer<RibbonLabel> alive(this);
-    setActionParams(false);
-    if (alive)
+    if (setActionParams())
         Q_EMIT visibleChange(this);
 }
 
 void RibbonLabel::focusInEvent(QFocusEvent *event)
 {
+    const QPointer<RibbonLabel> alive(this);
     Q_EMIT focusInOutEvent(event, true);
-    Label::focusInEvent(event);
+    if (alive)
+        Label::focusInEvent(event);
 }
 
 void RibbonLabel::focusOutEvent(QFocusEvent *event)
 {
+    const QPointer<RibbonLabel> alive(this);
     Q_EMIT focusInOutEvent(event, false);
-    Label::focusOutEvent(event);
+    if (alive)
+        Label::focusOutEvent(event);
 }
 
 void RibbonLabel::initStyleSheet()
@@ -59,15 +64,16 @@ void RibbonLabel::initStyleSheet()
     StyleSupport::applySheet(this, ElementRibbonLabel);
 }
 
-void RibbonLabel::setActionParams(bool p_skipVisible)
+/** Copies the state of the action; false if that was the end of the label. */
+bool RibbonLabel::setActionParams()
 {
-    if (!m_action)
-        return;
-    if (!p_skipVisible)
-        setVisible(controlVisible());
-    setEnabled(m_action->isEnabled());
-    setText(m_action->text());
-    setToolTip(Ribbon::createTooltip(m_action, this));
+    return RibbonSupport::copyState(
+        this, m_action, [this] { setVisible(controlVisible()); },
+        [this] { setEnabled(m_action->isEnabled()); },
+        [this] {
+            setText(m_action->text());
+            setToolTip(Ribbon::createTooltip(m_action, this));
+        });
 }
 
 } // namespace NVO

@@ -20,8 +20,8 @@ RibbonLayoutHelper::RibbonLayoutHelper(const QList<QWidget *> &p_widgets)
 RibbonLayoutHelper::RibbonLayoutHelper(const QList<QLayoutItem *> &p_items)
 {
     for (QLayoutItem *item : p_items) {
-        if (QWidget *widget = item->widget())
-            append(RibbonLayoutItem(widget));
+        if (item && item->widget())
+            append(RibbonLayoutItem(item->widget()));
     }
 }
 
@@ -39,8 +39,8 @@ QSize RibbonLayoutHelper::size(Qt::Orientation p_orientation, RibbonControl::Siz
                          : QSize(std::max(sum.width(), own.width()), sum.height() + own.height());
         ++visible;
     }
-    if (visible == 0)
-        return QSize();
+    if (isEmpty())
+        return sum;
     const int gaps = (visible - 1) * m_spacing;
     return sum + (horizontal ? QSize(gaps, 0) : QSize(0, gaps));
 }

@@ -15,9 +15,8 @@ constexpr int keytipSize = 20;
 
 } // namespace
 
-QString singleLine(const Action *action)
+QString singleLine(QString text)
 {
-    QString text = action->text();
     text.replace(QLatin1String("<br>"), QLatin1String(" "));
     text.replace(QLatin1Char('\n'), QLatin1Char(' '));
     return text;

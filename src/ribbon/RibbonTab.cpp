@@ -39,7 +39,7 @@ RibbonTab::RibbonTab(Action *p_action, QWidget *p_parent)
         connect(p_action, &QAction::triggered, this, &RibbonTab::showKeytips);
         connect(p_action, &QAction::changed, this, &RibbonTab::changedAction);
     }
-    setActionParams(false);
+    setActionParams();
 }
 
 RibbonTab::~RibbonTab()
@@ -63,7 +63,10 @@ RibbonGroup *RibbonTab::addGroup(Action *p_action)
 
 RibbonGroupObject *RibbonTab::addGroupObject(Action *p_action)
 {
-    return addBlock(new RibbonGroupObject(p_action, this));
+    auto *object = new RibbonGroupObject(p_action, this);
+    if (p_action)
+        connect(p_action, &QAction::changed, this, &RibbonTab::updateSeparators);
+    return addBlock(object);
 }
 
 /** Adds a group or picture block, behind a separator if it is not the first. */
@@ -192,17 +195,23 @@ void RibbonTab::showKeytips()
 
 void RibbonTab::changedAction()
 {
-    setActionParams(false);
+    setActionParams();
     Q_EMIT signalChangedAction(this);
 }
 
-void RibbonTab::onVisibleChange(RibbonControl *p_ribbonControl)
+void RibbonTab::onVisibleChange(RibbonControl *)
 {
-    // What stands visible before a separator has changed for all that follow.
-    const QList<RibbonSeperator *> separators = m_pageWidget->findChildren<RibbonSeperator *>();
-    for (RibbonSeperator *separator : separators)
-        separator->onVisibleChange(p_ribbonControl);
+    updateSeparators();
     Q_EMIT signalChangedAction(this);
+}
+
+/** What stands visible before a separator has changed for all that follow. */
+void RibbonTab::updateSeparators()
+{
+    const auto separators =
+        m_pageWidget->findChildren<RibbonSeperator *>(QString(), Qt::FindDirectChildrenOnly);
+    for (RibbonSeperator *separator : separators)
+        separator->onVisibleChange(nullptr);
 }
 
 void RibbonTab::groupKeyFocusChange(bool p_left, int p_row)
@@ -232,9 +241,9 @@ void RibbonTab::focusOutEvent(QFocusEvent *event)
     QFrame::focusOutEvent(event);
 }
 
-void RibbonTab::setActionParams(bool p_skipVisible)
+void RibbonTab::setActionParams()
 {
-    if (p_skipVisible || !m_action)
+    if (!m_action)
         return;
     // A page that is not the current one must not come up over that.
     if (!m_action->isVisible() || isCurrentPage())

@@ -76,8 +76,12 @@ QPixmap iconPixmap(const QIcon &icon, const QSize &size, const QWidget *widget, 
 {
     if (QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps))
         return icon.pixmap(widget->window()->windowHandle(), size, mode, QIcon::Off);
-    QPixmap pixmap = icon.pixmap(size * widget->devicePixelRatioF(), mode, QIcon::Off);
-    pixmap.setDevicePixelRatio(widget->devicePixelRatioF());
+    const qreal ratio = widget->devicePixelRatioF();
+    QPixmap pixmap = icon.pixmap(size * ratio, mode, QIcon::Off);
+    // An icon that has nothing as large keeps its own size.
+    const qreal fill =
+        qMax(pixmap.width() / (size.width() * ratio), pixmap.height() / (size.height() * ratio));
+    pixmap.setDevicePixelRatio(qMax(qreal(1), ratio * fill));
     return pixmap;
 }
 

@@ -514,7 +514,51 @@ private Q_SLOTS:
         QTRY_VERIFY(!popup);
         QCOMPARE(recorder.take(), QStringList("focus"));
         f.groups[0]->triggeredAction();
+        f.popupOf(0)->close();
+        f.groups[0]->triggeredAction(); // the closed one still waits for its end
+        QTRY_COMPARE(f.groups[0]->findChildren<RibbonGroup *>().size(), 1);
+        QVERIFY(f.popupOf(0)->isVisible() && f.buttonOf(0)->property("style") == "open");
+        const auto setVisible = [&](bool visible) {
+            for (int i = 0; i < 3; ++i)
+                f.actionOf(i)->setVisible(visible);
+        };
+        setVisible(false);
+        setVisible(true);
+        QCoreApplication::processEvents();
         QVERIFY(f.popupOf(0)->isVisible());
+        setVisible(false);
+        QTRY_VERIFY(!f.popupOf(0));
+        setVisible(true);
+        QVERIFY(!f.popupOf(0));
+
+        RibbonGroup embedded(f.groups[0]->action(), true, nullptr);
+        embedded.addAction(f.actionOf(0));
+        setVisible(false);
+        QVERIFY(embedded.isHidden());
+        setVisible(true);
+        QVERIFY(embedded.isVisible());
+    }
+
+    void collapsedGroupsOpenAgain()
+    {
+        Fixture f("A:6,6");
+        for (Action *command : f.actions)
+            command->setText("Langer Befehl");
+        f.show();
+        const RibbonGroup *last = f.groups[1];
+        for (int width = 1200; last->sizeMode() == RibbonControl::Large; width -= 10) {
+            f.ribbon->resize(width, 160);
+            QTest::qWait(1);
+        }
+        for (int i = 7; i < 12; ++i)
+            f.actionOf(i)->setVisible(false);
+        QTRY_COMPARE(last->sizeMode(), RibbonControl::Large);
+        for (int i = 7; i < 12; ++i)
+            f.actionOf(i)->setVisible(true);
+        QTRY_COMPARE(last->sizeMode(), RibbonControl::Small);
+        for (int i = 6; i < 12; ++i)
+            f.actionOf(i)->setText("Kurz");
+        QTRY_COMPARE(last->sizeMode(), RibbonControl::Large);
     }
 
     void deadActions()
@@ -535,6 +579,7 @@ private Q_SLOTS:
         f.ribbon->resize(90, 160);
         f.ribbon->grab();
         f.ribbon->setCurrentIndex(0);
+        QVERIFY(!f.popupOf(0)); // there is nothing to show
     }
 
     void deletedWhileOpen()

@@ -87,6 +87,19 @@ private Q_SLOTS:
         }
     }
 
+    void actionDeletedBySlot()
+    {
+        auto *action = new Action("Wechsel");
+        action->setCheckable(true);
+        RibbonButton button(action, nullptr);
+        SignalRecorder changes;
+        changes.record(&button, &RibbonButton::visibleChange, "change");
+        connect(&button, &QAbstractButton::toggled, [action] { delete action; });
+        action->setChecked(true);
+        QVERIFY(!button.action() && button.isChecked());
+        QCOMPARE(changes.take(), QStringList("change"));
+    }
+
     void followTheAction()
     {
         QWidget parent;

@@ -47,6 +47,19 @@ class TestRibbonLayout : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void captionOfALateWidget()
+    {
+        QWidget panel;
+        auto *layout = new RibbonGroupLayout;
+        layout->addItem(nullptr);
+        layout->setText("Gruppe");
+        QVERIFY(!layout->getLabel()->isVisible());
+        panel.setLayout(layout);
+        layout->setGeometry(QRect(0, 0, 200, 90));
+        QCOMPARE(layout->getLabel()->parentWidget(), &panel);
+        QVERIFY(!layout->getLabel()->isHidden());
+    }
+
     void controlsOfAGroup()
     {
         QRandomGenerator random(11);
