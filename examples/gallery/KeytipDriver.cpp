@@ -67,16 +67,17 @@ void KeytipDriver::altReleased()
 bool KeytipDriver::keyPressed(const QKeyEvent &event)
 {
     constexpr Qt::KeyboardModifiers combining = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    if (!isShowing() || !isInFront() || (event.modifiers() & combining))
+    if (!isInFront() || (event.modifiers() & combining))
         return false;
-    if (event.key() == Qt::Key_Escape) {
+    if (event.key() == Qt::Key_Escape && (isShowing() || hasFocus())) {
         leave();
         return true;
     }
     const QString text = event.text();
-    if (text.isEmpty() || !text.at(0).isLetterOrNumber())
+    if (!isShowing() || text.isEmpty() || !text.at(0).isLetterOrNumber())
         return false;
-    choose(text);
+    if (!event.isAutoRepeat()) // a key held down chooses once
+        choose(text);
     return true;
 }
 
@@ -103,6 +104,12 @@ void KeytipDriver::leave()
 bool KeytipDriver::isShowing() const
 {
     return m_ribbon->areKeytipsVisible() || m_ribbon->areControlKeytipsVisible();
+}
+
+bool KeytipDriver::hasFocus() const
+{
+    const QWidget *focused = QApplication::focusWidget();
+    return focused && NVO::Ribbon::findRibbon(focused) == m_ribbon;
 }
 
 bool KeytipDriver::isInFront() const

@@ -30,6 +30,7 @@ private:
     void choose(const QString &key);
     void leave();
     bool isShowing() const;
+    bool hasFocus() const;
     bool isInFront() const;
 
     NVO::Ribbon *m_ribbon;

@@ -107,12 +107,15 @@ protected:
 
     bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void tabInserted(int index) override;
+    void tabRemoved(int index) override;
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
     QList<RibbonTab *> livingTabs() const;
     RibbonTab *tabAt(int index) const;
+    void placeKeytips();
     void triggerFileTab();
     void moveExtraWidget(int index);
     int returnPosition(const RibbonTab *tab) const;

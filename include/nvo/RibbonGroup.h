@@ -55,7 +55,10 @@ public:
      */
     bool selectControlByKey(const QString &p_key, bool p_shortcut);
 
-    /** Gives the first enabled and visible control the focus; false if there is none. */
+    /**
+     * Gives the first enabled and visible control the focus, or the button of a collapsed group that has such
+     * a control; false if there is none.
+     */
     bool selectFirstControl();
 
     /** Shows a keytip on each visible control, or on the button of a collapsed group. */
@@ -105,6 +108,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
@@ -121,8 +125,9 @@ private:
     template <typename Control>
     QWidget *addControl(Control *control);
     void showPopup(bool p_showKeytips);
+    void reconsiderPopup();
     void placePopup(RibbonGroup *popup);
-    void focusPopup(const QPointer<RibbonGroup> &popup, QWidget *first);
+    void focusPopup(const RibbonGroup &popup);
     void showKeytip(QWidget *widget, const Action *action);
     void moveFocus(int key);
 

@@ -55,7 +55,7 @@ public:
     /** See RibbonGroup::selectControlByKey(); the groups are asked in order. */
     bool selectControlByKey(const QString &p_key, bool p_shortcut);
 
-    /** Gives the first control of the first group that takes it the focus; false if none does. */
+    /** Gives the first group that takes it the focus; false if none does. */
     bool selectFirstControl();
 
     void hideKeytips();

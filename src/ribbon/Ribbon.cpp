@@ -24,6 +24,12 @@ constexpr int fileTab = 0;
 constexpr int firstPage = 1; // behind the file tab
 constexpr int keytipOverlap = 2;
 
+const QString &defaultStyle()
+{
+    static const QString style = QStringLiteral("default");
+    return style;
+}
+
 const QString &focusStyle()
 {
     static const QString style = QStringLiteral("focus");
@@ -69,6 +75,7 @@ Ribbon::Ribbon(Action *p_action, QWidget *p_parent)
     tabBar()->setExpanding(false);
     tabBar()->installEventFilter(this);
     tabBar()->setCursor(Qt::PointingHandCursor);
+    tabBar()->setProperty("style", defaultStyle());
     connect(this, &QTabWidget::currentChanged, this, &Ribbon::tabCurrentChanged);
     initStyleSheet();
     if (qobject_cast<QApplication *>(QCoreApplication::instance()))
@@ -223,10 +230,9 @@ void Ribbon::hideKeytips()
     for (const QPointer<QWidget> &keytip : qAsConst(m_keytips))
         delete keytip;
     m_keytips.clear();
-    for (int i = 0; i < count(); ++i) {
-        if (RibbonTab *tab = tabAt(i))
-            tab->hideKeytips();
-    }
+    const QList<RibbonTab *> tabs = livingTabs();
+    for (RibbonTab *tab : tabs)
+        tab->hideKeytips();
     repaint();
 }
 
@@ -291,7 +297,8 @@ void Ribbon::tabCurrentChanged(int p_index)
     if (!m_selectingByKey)
         hideKeytips();
     if (p_index == fileTab && m_fileAction) {
-        if (!m_changingTabs)
+        // Nobody has chosen the file tab where it has only taken the place of a page that went.
+        if (!m_changingTabs && m_previousPage && indexOf(m_previousPage) >= 0)
             triggerFileTab();
         return;
     }
@@ -342,7 +349,7 @@ void Ribbon::onChangedAction(RibbonTab *p_ribbonTab)
         return;
     const Action *action = p_ribbonTab->action();
     const int index = indexOf(p_ribbonTab);
-    if (index >= 0)
+    if (index >= 0 && tabText(index) != action->text())
         setTabText(index, action->text());
 
     const QScopedValueRollback<bool> guard(m_changingTabs, true);
@@ -389,7 +396,7 @@ void Ribbon::setTabBarStyle(const QString &p_style)
 
 void Ribbon::setTabBarStyle(bool p_focus)
 {
-    setTabBarStyle(p_focus ? focusStyle() : QStringLiteral("default"));
+    setTabBarStyle(p_focus ? focusStyle() : defaultStyle());
 }
 
 QWidget *Ribbon::createKeytip(const QString &p_text)
@@ -429,6 +436,8 @@ bool Ribbon::eventFilter(QObject *watched, QEvent *event)
  */
 bool Ribbon::tabBarKeyPress(int key)
 {
+    if (tabBar()->isRightToLeft() && (key == Qt::Key_Left || key == Qt::Key_Right))
+        key = key == Qt::Key_Left ? Qt::Key_Right : Qt::Key_Left; // as the bar itself takes them
     switch (key) {
     case Qt::Key_Left:
         if (!m_fileAction || tabBar()->currentIndex() != firstPage)
@@ -454,6 +463,23 @@ bool Ribbon::tabBarKeyPress(int key)
 bool Ribbon::isFirstTabFocused() const
 {
     return tabBar()->property("style") == firstFocusStyle();
+}
+
+void Ribbon::tabInserted(int)
+{
+    placeKeytips();
+}
+
+void Ribbon::tabRemoved(int)
+{
+    placeKeytips();
+}
+
+/** Keytips that show stand on the tabs that are there now. */
+void Ribbon::placeKeytips()
+{
+    if (areKeytipsVisible())
+        showKeytips();
 }
 
 void Ribbon::focusOutEvent(QFocusEvent *event)

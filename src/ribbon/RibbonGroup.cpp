@@ -21,7 +21,9 @@
 #include <QScreen>
 #include <QStackedLayout>
 #include <QTabBar>
+#include <QTimer>
 
+#include <algorithm>
 #include <limits>
 
 namespace NVO {
@@ -111,13 +113,14 @@ QWidget *RibbonGroup::addAction(Action *p_action)
 {
     if (!p_action)
         return nullptr;
+    QWidget *panel = m_groupLayout->parentWidget();
     switch (p_action->controlType()) {
     case Action::CommandButton:
-        return addControl(new RibbonButton(p_action, this));
+        return addControl(new RibbonButton(p_action, panel));
     case Action::CommandCheckBox:
-        return addControl(new RibbonCheckBox(p_action, this));
+        return addControl(new RibbonCheckBox(p_action, panel));
     case Action::CommandLabel:
-        return addControl(new RibbonLabel(p_action, this));
+        return addControl(new RibbonLabel(p_action, panel));
     }
     qDebug().nospace() << "RibbonGroup::addAction unknown type: " << int(p_action->controlType());
     return nullptr;
@@ -208,7 +211,8 @@ bool RibbonGroup::selectFirstControl()
     const QList<RibbonControl *> all = controls();
     for (RibbonControl *control : all) {
         if (canBeChosen(control)) {
-            dynamic_cast<QWidget *>(control)->setFocus();
+            QWidget *widget = isCollapsed() ? m_groupButton : dynamic_cast<QWidget *>(control);
+            widget->setFocus();
             return true;
         }
     }
@@ -340,6 +344,7 @@ void RibbonGroup::updateFace()
         return;
     m_stackedLayout->setCurrentIndex(page);
     updateGeometry();
+    reconsiderPopup();
 }
 
 Action *RibbonGroup::action() const
@@ -411,6 +416,12 @@ void RibbonGroup::moveFocus(int key)
     }
 }
 
+void RibbonGroup::hideEvent(QHideEvent *event)
+{
+    QFrame::hideEvent(event);
+    reconsiderPopup();
+}
+
 void RibbonGroup::focusInEvent(QFocusEvent *event)
 {
     const QPointer<RibbonGroup> alive(this);
@@ -470,7 +481,7 @@ void RibbonGroup::setUpdateVisible()
     if (windowType() != Qt::Popup)
         setVisible(controlVisible());
     else if (!controlVisible())
-        QMetaObject::invokeMethod(this, &RibbonGroup::closeIfEmpty, Qt::QueuedConnection);
+        QTimer::singleShot(0, this, &RibbonGroup::closeIfEmpty);
     if (!alive)
         return;
     if (isCollapsed())
@@ -504,13 +515,9 @@ void RibbonGroup::showPopup(bool p_showKeytips)
     popup->setWindowFlags(Qt::Popup);
     popup->setAttribute(Qt::WA_DeleteOnClose);
     popup->setSizeMode(Large, false);
-    QWidget *first = nullptr; // a child of the popup
     const QList<RibbonControl *> all = controls();
-    for (const RibbonControl *control : all) {
-        QWidget *widget = popup->addAction(control->action());
-        if (!first)
-            first = widget;
-    }
+    for (const RibbonControl *control : all)
+        popup->addAction(control->action());
     if (popup->visibleWidgets().isEmpty()) {
         delete popup;
         return;
@@ -525,7 +532,19 @@ void RibbonGroup::showPopup(bool p_showKeytips)
             closePopup();
     });
     popup->show();
-    focusPopup(popup, first);
+    if (popup)
+        focusPopup(*popup);
+}
+
+/** The popup goes with the button that it has come from, unless that is back before the change is over. */
+void RibbonGroup::reconsiderPopup()
+{
+    if (!m_popup)
+        return;
+    QTimer::singleShot(0, this, [this] {
+        if (m_popup && !m_groupButton->isVisible())
+            m_popup->close();
+    });
 }
 
 void RibbonGroup::placePopup(RibbonGroup *popup)
@@ -536,17 +555,16 @@ void RibbonGroup::placePopup(RibbonGroup *popup)
     popup->move(screenGeometry(QRect(point, size)));
 }
 
-/** The first control of the popup has the focus; where the mouse did not open it, that is to be seen. */
-void RibbonGroup::focusPopup(const QPointer<RibbonGroup> &popup, QWidget *first)
+/** The first control of the popup that can has the focus; where the mouse did not open it, that is to be
+ * seen. */
+void RibbonGroup::focusPopup(const RibbonGroup &popup)
 {
-    if (popup && first)
-        first->setFocus();
-    if (!popup)
-        return;
     const bool underMouse = m_groupButton->geometry().contains(m_groupButton->mapFromGlobal(QCursor::pos()));
-    const QList<QWidget *> visible = popup->visibleWidgets();
-    if (!underMouse && !visible.isEmpty())
-        visible.first()->setFocus(Qt::TabFocusReason);
+    const QList<QWidget *> visible = popup.visibleWidgets();
+    const auto first =
+        std::find_if(visible.begin(), visible.end(), [](QWidget *control) { return control->isEnabled(); });
+    if (first != visible.end())
+        (*first)->setFocus(underMouse ? Qt::OtherFocusReason : Qt::TabFocusReason);
 }
 
 } // namespace NVO

@@ -51,13 +51,21 @@ void RibbonGroupButton::setOpen(bool p_open)
 
 QSize RibbonGroupButton::minimumSizeHint() const
 {
+    const bool hasIcon = !icon().isNull();
+    if (m_kept.size.isEmpty() || m_kept.text != text() || m_kept.font != font() || m_kept.hasIcon != hasIcon)
+        m_kept = {text(), font(), hasIcon, computedSize()};
+    return m_kept.size;
+}
+
+QSize RibbonGroupButton::computedSize() const
+{
     QSize size = icon().isNull() ? QSize(0, 0) : QSize(iconPlace.width(), iconHeightWithGap);
     if (!text().isEmpty()) {
         const QFontMetrics metrics = fontMetrics();
         const QStringList lines = textLines();
         for (const QString &line : lines)
-            size =
-                QSize(qMax(size.width(), metrics.horizontalAdvance(line)), size.height() + metrics.height());
+            size.setWidth(qMax(size.width(), metrics.horizontalAdvance(line)));
+        size.rheight() += lines.count() * metrics.height();
     }
     return size + QSize(horizontalMargins, verticalMargins);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QPushButton>
 
 namespace NVO {
@@ -31,9 +32,21 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    /** The smallest size with what it was computed from. */
+    struct Kept
+    {
+        QString text;
+        QFont font;
+        bool hasIcon = false;
+        QSize size;
+    };
+
     void initStyleSheet(bool open);
+    QSize computedSize() const;
     QStringList textLines() const;
     void paintChevron(QPainter &painter) const;
+
+    mutable Kept m_kept;
 };
 
 } // namespace NVO

@@ -178,10 +178,11 @@ void RibbonGroupLayout::setText(const QString &p_text)
     if (!m_label)
         return;
     adoptCaption();
+    const QString before = m_label->text();
     m_label->setText(p_text);
     m_label->setVisible(!p_text.isEmpty() && m_label->parentWidget());
-    if (m_area.isValid())
-        doLayout(); // else it is due anyway
+    if (m_area.isValid() && m_label->text() != before)
+        doLayout();
 }
 
 /** A layout may be given its widget after it was made. */

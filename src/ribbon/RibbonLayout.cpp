@@ -32,12 +32,14 @@ QSize RibbonLayout::sizeHint() const
 
 QSize RibbonLayout::minimumSize() const
 {
+    if (m_minimum.isValid())
+        return m_minimum;
     const RibbonLayoutHelper items = m_items.row(spacing());
     const QSize large = items.size(Qt::Horizontal, RibbonControl::Large, true);
     const QSize small = items.size(Qt::Horizontal, RibbonControl::Small, true);
     const QMargins margins = contentsMargins();
-    return (small.width() < large.width() ? small : large)
-           + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
+    return m_minimum = (small.width() < large.width() ? small : large)
+                       + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
 }
 
 QSize RibbonLayout::maximumSize() const
@@ -48,6 +50,12 @@ QSize RibbonLayout::maximumSize() const
     const QMargins margins = contentsMargins();
     return (large.width() > small.width() ? large : small)
            + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
+}
+
+void RibbonLayout::invalidate()
+{
+    m_minimum = QSize();
+    QLayout::invalidate();
 }
 
 void RibbonLayout::setGeometry(const QRect &p_rect)

@@ -26,6 +26,7 @@ public:
     QSize sizeHint() const override;
     QSize minimumSize() const override;
     QSize maximumSize() const override;
+    void invalidate() override;
     void setGeometry(const QRect &p_rect) override;
 
     /** The widgets whose controls are visible, and those that are no controls, in order. */
@@ -35,6 +36,7 @@ private:
     void doLayout();
 
     RibbonItemList m_items;
+    mutable QSize m_minimum; ///< Kept until the layout is invalidated.
 };
 
 } // namespace NVO

@@ -54,7 +54,7 @@ Action *RibbonTab::action() const
 
 RibbonGroup *RibbonTab::addGroup(Action *p_action)
 {
-    auto *group = new RibbonGroup(p_action, false, this);
+    auto *group = new RibbonGroup(p_action, false, m_pageWidget);
     connect(group, &RibbonGroup::visibleChange, this, &RibbonTab::onVisibleChange);
     connect(group, &RibbonGroup::focusInOutEvent, this, &RibbonTab::focusInOutEvent);
     connect(group, &RibbonGroup::keyFocusChange, this, &RibbonTab::groupKeyFocusChange);
@@ -252,10 +252,11 @@ void RibbonTab::setActionParams()
         ribbon->setTabToolTip(ribbon->indexOf(this), m_action->toolTip());
 }
 
+/** A page without a ribbon is on its own. */
 bool RibbonTab::isCurrentPage() const
 {
     const Ribbon *ribbon = Ribbon::findRibbon(this);
-    return ribbon && ribbon->currentWidget() == this;
+    return !ribbon || ribbon->currentWidget() == this;
 }
 
 } // namespace NVO

@@ -124,6 +124,9 @@ private Q_SLOTS:
         f.ribbon->setCurrentIndex(0);
         QCOMPARE(f.bar(), QString("Datei [C]"));
         QCOMPARE(triggered.count(), 3);
+        f.ribbon->removeTab(1); // the file tab takes its place
+        QCOMPARE(f.bar(), QString("[Datei]"));
+        QCOMPARE(triggered.count(), 3);
     }
 
     void tabsLeaveAndReturn()
@@ -415,10 +418,22 @@ private Q_SLOTS:
         QCOMPARE(after(Qt::Key_Left), QString("firstFocus Datei [A] B 0"));
         QCOMPARE(after(Qt::Key_Return), QString("firstFocus Datei [A] B 1"));
         QCOMPARE(after(Qt::Key_Right), QString("focus Datei [A] B 1"));
+        bar->setLayoutDirection(Qt::RightToLeft); // the file tab is at the other end
+        QCOMPARE(after(Qt::Key_Right), QString("firstFocus Datei [A] B 1"));
+        QCOMPARE(after(Qt::Key_Left), QString("focus Datei [A] B 1"));
+        QCOMPARE(after(Qt::Key_Left), QString("focus Datei A [B] 1"));
+        bar->setLayoutDirection(Qt::LeftToRight);
+        after(Qt::Key_Left);
         f.outside->setFocus();
         f.ribbon->toggleKeyfocus();
         after(Qt::Key_Down);
         QVERIFY(f.controls[0]->hasFocus());
+        f.ribbon->resize(40, 160);
+        f.ribbon->grab();
+        after(Qt::Key_Down); // what is behind a button is not reached
+        QVERIFY(f.buttonOf(0)->hasFocus());
+        f.ribbon->resize(1200, 160);
+        f.ribbon->grab();
         f.controls[1]->setFocus(); // from one control to the other: nothing new to remember
         f.ribbon->slotTriggerAction();
         QVERIFY(f.outside->hasFocus());
@@ -429,6 +444,7 @@ private Q_SLOTS:
         QVERIFY(f.controls[0]->hasFocus());
         Fixture without("A:1 B:1", false);
         without.ribbon->setCurrentIndex(1);
+        QCOMPARE(without.ribbon->tabBar()->property("style").toString(), QString("default"));
         QTest::keyClick(without.ribbon->tabBar(), Qt::Key_Left);
         without.actionOf(0)->setVisible(false); // no tab leaves
         without.tabs[1]->action()->setVisible(false);
@@ -484,7 +500,7 @@ private Q_SLOTS:
 
     void popup()
     {
-        Fixture f("A:3,2");
+        Fixture f("A:3,2 B:1");
         f.ribbon->resize(40, 160);
         f.show();
         SignalRecorder recorder;
@@ -530,6 +546,20 @@ private Q_SLOTS:
         QTRY_VERIFY(!f.popupOf(0));
         setVisible(true);
         QVERIFY(!f.popupOf(0));
+        const QList<std::function<void()>> ends{
+            [&] { f.ribbon->resize(1200, 160); }, [&] { f.ribbon->setCurrentIndex(2); },
+            [&] { f.tabs[0]->action()->setVisible(false); }, [&] { f.window.hide(); }};
+        for (const auto &end : ends) {
+            f.ribbon->resize(40, 160);
+            f.tabs[0]->action()->setVisible(true);
+            f.ribbon->setCurrentIndex(1);
+            QTest::qWait(1);
+            f.actionOf(0)->setEnabled(false);
+            f.groups[0]->triggeredAction();
+            QTRY_VERIFY(f.popupOf(0) && f.popupOf(0)->visibleWidgets()[1]->hasFocus());
+            end();
+            QTRY_VERIFY(!f.popupOf(0));
+        }
 
         RibbonGroup embedded(f.groups[0]->action(), true, nullptr);
         embedded.addAction(f.actionOf(0));
