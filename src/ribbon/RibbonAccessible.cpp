@@ -1,5 +1,6 @@
 #include "ribbon/RibbonAccessible.h"
 
+#include "buttons/AccessibleButton.h"
 #include "ribbon/RibbonGroupButton.h"
 #include "ribbon/RibbonSupport.h"
 
@@ -9,7 +10,6 @@
 #include <nvo/RibbonGroup.h>
 #include <nvo/RibbonLabel.h>
 
-#include <QAccessibleWidget>
 #include <QRegularExpression>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
@@ -30,10 +30,11 @@ QString spoken(const QString &text, bool hasMnemonic)
 }
 
 /** What is described by its action, its own or that of the group around it. */
-class AccessibleControl : public QAccessibleWidget
+template <typename Base>
+class ByAction : public Base
 {
 public:
-    using QAccessibleWidget::QAccessibleWidget;
+    using Base::Base;
 
     QString text(QAccessible::Text type) const override
     {
@@ -41,14 +42,14 @@ public:
         const Action *action = ownAction();
         if (!action)
             return own;
-        const bool hasMnemonic = qobject_cast<RibbonCheckBox *>(object());
+        const bool hasMnemonic = qobject_cast<RibbonCheckBox *>(this->object());
         const QString name = spoken(action->text(), hasMnemonic);
         const QString help = spoken(action->toolTip(), false);
         switch (type) {
         case QAccessible::Name:
             return !own.isEmpty() ? own : name.isEmpty() ? help : name;
         case QAccessible::Description: // the tool tip of a control is a table of name and help
-            if (!widget()->accessibleDescription().isEmpty())
+            if (!this->widget()->accessibleDescription().isEmpty())
                 return own;
             return help == name || help == spoken(action->text(), true) ? QString() : help;
         case QAccessible::Accelerator:
@@ -62,7 +63,7 @@ private:
     /** Asked anew each time: a group goes before its button does. */
     const Action *ownAction() const
     {
-        const QObject *owner = object();
+        const QObject *owner = this->object();
         if (qobject_cast<const RibbonGroupButton *>(owner))
             owner = owner->parent();
         const auto *control = dynamic_cast<const RibbonControl *>(owner);
@@ -70,76 +71,24 @@ private:
     }
 };
 
-/** A push button, a check box or the button of a group; none of them has children. */
-class AccessibleButton : public AccessibleControl
+/** The button of a group opens its popup. */
+class AccessibleGroupButton : public ByAction<AccessibleButton>
 {
 public:
-    explicit AccessibleButton(QAbstractButton *button)
-        : AccessibleControl(button)
-        , m_groupButton(qobject_cast<RibbonGroupButton *>(button))
-    {}
+    using ByAction::ByAction;
 
-    QAccessible::Role role() const override
-    {
-        if (m_groupButton)
-            return QAccessible::ButtonMenu;
-        return button()->isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
-    }
+    QAccessible::Role role() const override { return QAccessible::ButtonMenu; }
 
     QAccessible::State state() const override
     {
-        QAccessible::State state = AccessibleControl::state();
-        state.checkable = button()->isCheckable();
-        state.checked = button()->isChecked();
-        state.pressed = button()->isDown();
-        if (m_groupButton) {
-            state.hasPopup = true;
-            state.expandable = true;
-            state.expanded = m_groupButton->isOpen();
-            state.collapsed = !m_groupButton->isOpen();
-        }
+        const bool isOpen = static_cast<RibbonGroupButton *>(button())->isOpen();
+        QAccessible::State state = ByAction::state();
+        state.hasPopup = true;
+        state.expandable = true;
+        state.expanded = isOpen;
+        state.collapsed = !isOpen;
         return state;
     }
-
-    QStringList actionNames() const override
-    {
-        const QStringList names = AccessibleControl::actionNames();
-        return widget()->isEnabled() ? QStringList(clickAction()) + names : names;
-    }
-
-    void doAction(const QString &name) override
-    {
-        if (name != clickAction())
-            AccessibleControl::doAction(name);
-        else if (widget()->isEnabled())
-            button()->animateClick();
-    }
-
-    QStringList keyBindingsForAction(const QString &name) const override
-    {
-        const QString shortcut = text(QAccessible::Accelerator);
-        return name == clickAction() && !shortcut.isEmpty() ? QStringList(shortcut) : QStringList();
-    }
-
-    int childCount() const override { return 0; }
-    QAccessibleInterface *child(int) const override { return nullptr; }
-
-private:
-    QAbstractButton *button() const { return static_cast<QAbstractButton *>(object()); }
-
-    QString clickAction() const
-    {
-        switch (role()) {
-        case QAccessible::ButtonMenu:
-            return showMenuAction();
-        case QAccessible::CheckBox:
-            return toggleAction();
-        default:
-            return pressAction();
-        }
-    }
-
-    const RibbonGroupButton *m_groupButton; ///< Null for a control.
 };
 
 /** Keytips repeat for the eye what the accelerators say. */
@@ -162,13 +111,14 @@ public:
 
 QAccessibleInterface *createInterface(const QString &, QObject *object)
 {
-    if (qobject_cast<RibbonButton *>(object) || qobject_cast<RibbonCheckBox *>(object)
-        || qobject_cast<RibbonGroupButton *>(object))
-        return new AccessibleButton(static_cast<QAbstractButton *>(object));
+    if (qobject_cast<RibbonButton *>(object) || qobject_cast<RibbonCheckBox *>(object))
+        return new ByAction<AccessibleButton>(static_cast<QAbstractButton *>(object));
+    if (auto *groupButton = qobject_cast<RibbonGroupButton *>(object))
+        return new AccessibleGroupButton(groupButton);
     if (auto *label = qobject_cast<RibbonLabel *>(object))
-        return new AccessibleControl(label, QAccessible::StaticText);
+        return new ByAction<QAccessibleWidget>(label, QAccessible::StaticText);
     if (auto *group = qobject_cast<RibbonGroup *>(object))
-        return new AccessibleControl(group, QAccessible::Grouping);
+        return new ByAction<QAccessibleWidget>(group, QAccessible::Grouping);
     if (RibbonSupport::isKeytip(object))
         return new AccessibleKeytip(static_cast<QWidget *>(object));
     return nullptr;
