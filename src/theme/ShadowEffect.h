@@ -4,8 +4,12 @@
 
 #include <nvo/GraphicsEffect.h>
 
+#include <QBackingStore>
 #include <QGuiApplication>
 #include <QPainter>
+#include <QWidget>
+
+#include <private/qgraphicseffect_p.h>
 
 namespace NVO {
 
@@ -39,6 +43,13 @@ public:
 protected:
     void draw(QPainter *painter) override
     {
+        if constexpr (sourceShape == ShadowOfWidget) {
+            const QWidget *widget = source()->widget();
+            if (widget && isOnScreen(*widget, *painter)) {
+                drawAround(*widget, painter);
+                return;
+            }
+        }
         QPoint offset;
         const QPixmap source = sourcePixmap(Qt::DeviceCoordinates, &offset, PadToEffectiveBoundingRect);
         if (source.isNull())
@@ -52,16 +63,47 @@ protected:
     }
 
 private:
+    /** Whether a widget is painted for its window, where Qt says what part of it has to be painted again. */
+    static bool isOnScreen(const QWidget &widget, const QPainter &painter)
+    {
+        QBackingStore *store = widget.backingStore();
+        return store && store->paintDevice() == painter.device();
+    }
+
+    /**
+     * Draws the widget without a detour over a pixmap: only what has to be painted again is. The shadow comes
+     * first, since it lies outside of the widget and painting that takes away the clip of the painter.
+     */
+    void drawAround(const QWidget &widget, QPainter *painter)
+    {
+        if (enabled() && !widget.rect().isEmpty()) {
+            const QTransform transform = painter->worldTransform();
+            const QRect bounds = boundingRectFor(transform.mapRect(QRectF(widget.rect()))).toAlignedRect();
+            const qreal ratio = painter->device()->devicePixelRatioF();
+            painter->setWorldTransform(QTransform());
+            shadowOfRect(bounds.size() * ratio).draw(painter, bounds.topLeft(), ratio);
+            painter->setWorldTransform(transform);
+        }
+        drawSource(painter);
+    }
+
+    /** The shadow of a picture of the source. */
     SparseImage &shadow(const QPixmap &source)
     {
-        const qreal ratio = qGuiApp->devicePixelRatio();
         if constexpr (sourceShape == ShadowOfPixels)
-            return m_renderer.shadowOfPixels(source.toImage(), ratio);
+            return m_renderer.shadowOfPixels(source.toImage(), qGuiApp->devicePixelRatio());
+        return shadowOfRect(source.size());
+    }
+
+    /** The shadow of the rectangle in an image of \a imageSize. */
+    SparseImage &shadowOfRect(const QSize &imageSize)
+    {
+        const qreal ratio = qGuiApp->devicePixelRatio();
         // This is the widget's size, and that of the item where there is no widget.
         const QSizeF size = sourceBoundingRect().size();
         const QRect part = sourceShape == ShadowOfPart ? partialRect() : QRect();
-        const QRect rect = ShadowRenderer::castingRect(size, part, source.size(), ratio);
-        return m_renderer.shadowOfRect(rect, source.size(), ratio);
+        const QRect rect = ShadowRenderer::castingRect(size, part, imageSize, ratio);
+        return m_renderer.shadowOfRect(rect, imageSize, ratio);
     }
 
     ShadowRenderer m_renderer{{extentX, extentY, sides, outer != ShadowInner, percent}};

@@ -4,6 +4,7 @@
 
 #include <nvo/GraphicsEffect.h>
 
+#include <QBackingStore>
 #include <QGraphicsRectItem>
 #include <QGraphicsScene>
 #include <QGraphicsView>
@@ -188,6 +189,7 @@ class TestShadowEffect : public TestCase
 private Q_SLOTS:
     void likeTheSlowShadow();
     void renderedLikeTheSlowEffect();
+    void repaintedOnScreen();
     void graphicsItemsAndSwitching();
 };
 
@@ -247,6 +249,44 @@ void TestShadowEffect::renderedLikeTheSlowEffect()
     compareRendered(create<ShadowEffect<1, 2, 13, 1, 4, 2>>, modern, ShadowOfPart, {5, 6, 30, 10});
     compareRendered(create<ShadowEffect<3, 3, 12, 1, 20, 2>>, classic, ShadowOfPart, {-9, 6, 30, 100});
     compareRendered(create<ShadowEffect<4, 4, 3, 0, 14, 1>>, sunken, ShadowOfWidget);
+}
+
+/** In its window a rectangle is painted in parts, which join without a trace. */
+void TestShadowEffect::repaintedOnScreen()
+{
+    QRandomGenerator random(19);
+    QWidget window;
+    window.setStyleSheet("background: rgb(240, 230, 220)");
+    window.resize(160, 120);
+    QFrame frame(&window);
+    frame.setGeometry(20, 20, 100, 70);
+    frame.setGraphicsEffect(new ShadowEffect<3, 3, 12, 1, 20, ShadowOfWidget>);
+    QVector<QLabel *> labels;
+    for (int i = 0; i < 4; ++i) {
+        labels.append(new QLabel(QString::number(i), &frame));
+        labels[i]->setGeometry(i * 25, i * 12, 60, 40); // they overlap, and the last is cut off
+    }
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    for (int i = 0; i < 60; ++i) {
+        switch (random.bounded(4)) {
+        case 0:
+            labels[random.bounded(4)]->setText(QString::number(i));
+            break;
+        case 1:
+            window.update(random.bounded(100), random.bounded(80), 40, 30);
+            break;
+        case 2:
+            frame.move(random.bounded(-20, 80), random.bounded(-20, 60));
+            break;
+        default:
+            static_cast<GraphicsEffect *>(frame.graphicsEffect())->setEnabled(random.bounded(3) > 0);
+        }
+        QCoreApplication::processEvents();
+        const auto *shown = dynamic_cast<QImage *>(window.backingStore()->paintDevice());
+        QVERIFY(shown);
+        QCOMPARE(shown->convertToFormat(format), window.grab().toImage().convertToFormat(format));
+    }
 }
 
 void TestShadowEffect::graphicsItemsAndSwitching()
