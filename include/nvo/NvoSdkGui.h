@@ -2,15 +2,24 @@
 
 // Every public class of the library.
 
+#include <nvo/AbstractButton.h>
 #include <nvo/Action.h>
 #include <nvo/Button.h>
+#include <nvo/CheckBox.h>
 #include <nvo/Css.h>
+#include <nvo/Dialog.h>
+#include <nvo/DialogButton.h>
 #include <nvo/Element.h>
 #include <nvo/Export.h>
 #include <nvo/Font.h>
 #include <nvo/GraphicsEffect.h>
+#include <nvo/HairLine.h>
 #include <nvo/Icon.h>
+#include <nvo/IconButton.h>
+#include <nvo/InfoBox.h>
 #include <nvo/Label.h>
+#include <nvo/Link.h>
+#include <nvo/MessageBox.h>
 #include <nvo/Palette.h>
 #include <nvo/Pixmap.h>
 #include <nvo/Product.h>
@@ -25,4 +34,6 @@
 #include <nvo/RibbonLayoutHelper.h>
 #include <nvo/RibbonLayoutItem.h>
 #include <nvo/RibbonTab.h>
+#include <nvo/SelectionMessageBoxBase.h>
+#include <nvo/Separator.h>
 #include <nvo/ShadowSimple.h>

@@ -51,9 +51,14 @@ void applySheet(QWidget *widget, Element element)
     // Qt's answer to a change of style asks the sheet for sizes, and a sheet that was asked before its
     // widget is polished is parsed a second time then. The widget has not been shown and has nothing laid
     // out that the answer could mend.
+    withoutStyleChange(widget, [=] { widget->setStyleSheet(sheet); });
+}
+
+void withoutStyleChange(QWidget *widget, const std::function<void()> &function)
+{
     StyleChangeBlocker blocker;
     widget->installEventFilter(&blocker);
-    widget->setStyleSheet(sheet);
+    function();
     widget->removeEventFilter(&blocker);
 }
 

@@ -8,6 +8,8 @@
 #include <QPixmap>
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 
 /** What every styled widget of the library does to get its look. */
@@ -15,6 +17,12 @@ namespace NVO::StyleSupport {
 
 /** Gives \a widget the finished sheet of \a element. */
 void applySheet(QWidget *widget, Element element);
+
+/**
+ * Runs \a function while \a widget, which has not been shown yet, hears of no change of its style. Qt's
+ * answer would be to parse its sheet, which it does again when the widget is polished.
+ */
+void withoutStyleChange(QWidget *widget, const std::function<void()> &function);
 
 /** Gives the font of \a widget the pixel size of \a element; sizes of 0 or less are left out. */
 void applyFontSize(QWidget *widget, Element element, const QString &variant = QString());

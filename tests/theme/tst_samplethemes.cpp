@@ -1,4 +1,5 @@
 #include "TestCase.h"
+#include "theme/SheetStates.h"
 
 #include <nvo/Css.h>
 #include <nvo/Font.h>
@@ -44,6 +45,7 @@ private Q_SLOTS:
             "clearDark bulb pathlabel_arrow searchresult_right_arrow information warning critical question "
             "arrow_right_dark_6x12 checkmark_16 checkmark_hell_16 close_16 close_hell_16 scrollarrow_up "
             "scrollarrow_up_hell scrollarrow_up_error scrollarrow_down scrollarrow_down_hell "
+            "checkbox_check checkbox_check_disabled checkbox_partial checkbox_partial_disabled "
             "scrollarrow_down_error sym_minus sym_plus aufhoehe_16 aufbreite_16 macclose";
         for (const QString &name : names.split(' ')) {
             const QImage plain(":/" + name);
@@ -87,11 +89,39 @@ private Q_SLOTS:
         QVERIFY(font.fontSizeByElement(NVO::ElementIconButton, "SMALL") > 0);
     }
 
+    void stateColors()
+    {
+        // What one style does not mention stays when the style changes, so each mentions the same.
+        const QVector<QPair<NVO::Element, QStringList>> looks{
+            {NVO::ElementIconButton, {"Dark", "DarkSmall", "Light", "LightSmall"}},
+            {NVO::ElementLink, {"Dark", "Light", "FlyoutDark", "FlyoutLight", "Login", "LoginInput"}}};
+        for (const auto &look : looks) {
+            QSet<QVector<bool>> mentioned;
+            for (const QString &style : look.second) {
+                const auto states = NVO::SheetStates::read(NVO::Css::instance().css(look.first), style);
+                QVector<bool> said;
+                for (const auto &color :
+                     {states.focus.text, states.focus.underline, states.hover.text, states.hover.underline,
+                      states.pressed.text, states.pressed.underline}) {
+                    said.append(color.has_value());
+                    QVERIFY2(!color || color->isValid(), qPrintable(style));
+                }
+                mentioned.insert(said);
+                QVERIFY(states.hover.text && states.pressed.text && states.menuIndicator);
+                QVERIFY2(QFile::exists(*states.menuIndicator), qPrintable(style));
+            }
+            QCOMPARE(mentioned.size(), 1);
+        }
+    }
+
     void sheets()
     {
         const QRegularExpression tokens("\\b((BASE)?COLOR|GRADIENT)_\\w+|\\b(SEMI)?(BOLD|LIGHT)\\b");
         for (const NVO::Element element :
-             {NVO::ElementButton, NVO::ElementRibbon, NVO::ElementRibbonButton, NVO::ElementRibbonCheckBox,
+             {NVO::ElementButton, NVO::ElementCheckBox, NVO::ElementDialog, NVO::ElementDialogButton,
+              NVO::ElementIconButton, NVO::ElementInfoBox, NVO::ElementLink, NVO::ElementMessageBox,
+              NVO::ElementSelectionMessageBox, NVO::ElementSeparator,
+              NVO::ElementRibbon, NVO::ElementRibbonButton, NVO::ElementRibbonCheckBox,
               NVO::ElementRibbonGroup, NVO::ElementRibbonGroupButton, NVO::ElementRibbonGroupObject,
               NVO::ElementRibbonLabel}) {
             const QString sheet = NVO::Css::instance().css(element);

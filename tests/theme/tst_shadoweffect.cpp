@@ -268,6 +268,10 @@ void TestShadowEffect::repaintedOnScreen()
     }
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const auto picture = [&window] {
+        const auto *shown = dynamic_cast<QImage *>(window.backingStore()->paintDevice());
+        return shown->copy().convertToFormat(QImage::Format_RGB32);
+    };
     for (int i = 0; i < 60; ++i) {
         switch (random.bounded(4)) {
         case 0:
@@ -283,9 +287,12 @@ void TestShadowEffect::repaintedOnScreen()
             static_cast<GraphicsEffect *>(frame.graphicsEffect())->setEnabled(random.bounded(3) > 0);
         }
         QCoreApplication::processEvents();
-        const auto *shown = dynamic_cast<QImage *>(window.backingStore()->paintDevice());
-        QVERIFY(shown);
-        QCOMPARE(shown->convertToFormat(format), window.grab().toImage().convertToFormat(format));
+        const QImage parts = picture();
+        window.update();
+        QCoreApplication::processEvents();
+        QCOMPARE(parts, picture());
+        if (window.devicePixelRatioF() == 1) // elsewhere a picture may round the edges in another way
+            QCOMPARE(parts, window.grab().toImage().convertToFormat(QImage::Format_RGB32));
     }
 }
 

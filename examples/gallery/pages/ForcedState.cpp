@@ -1,12 +1,27 @@
 #include "pages/ForcedState.h"
 
+#include <nvo/AbstractButton.h>
 #include <nvo/Button.h>
 
 #include <QApplication>
 #include <QEnterEvent>
 #include <QHoverEvent>
 #include <QMouseEvent>
+#include <QSignalBlocker>
 #include <QTimer>
+
+namespace {
+
+/** For buttons that know the mouse better than being down; nobody hears of it, so no menu opens. */
+void pressByMouse(QAbstractButton *button)
+{
+    const QSignalBlocker blocker(button);
+    const QPointF centre = QRectF(button->rect()).center();
+    QMouseEvent pressEvent(QEvent::MouseButtonPress, centre, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(button, &pressEvent);
+}
+
+} // namespace
 
 void ForcedState::apply(QWidget *widget, State state)
 {
@@ -68,6 +83,10 @@ void ForcedState::press()
     auto *button = qobject_cast<QAbstractButton *>(m_widget);
     if (!button)
         return;
+    if (qobject_cast<NVO::AbstractButton *>(button)) {
+        pressByMouse(button);
+        return;
+    }
     button->setDown(true);
     if (auto *houseButton = qobject_cast<NVO::Button *>(button))
         houseButton->setShadowEnabled(true); // lets the shadow follow the state
