@@ -28,12 +28,23 @@ std::unique_ptr<QDialog> houseBox()
                                              DialogButton::Yes | DialogButton::No, DialogButton::No, nullptr);
 }
 
+/** The look of our box and its buttons, as one sheet for the classes of Qt. */
+const QString &sheetForQt()
+{
+    static const QString sheet = QString(NVO::Css::instance().css(NVO::ElementDialogButton)
+                                         + NVO::Css::instance().css(NVO::ElementMessageBox))
+                                     .replace("NVO--DialogButton", "QPushButton")
+                                     .replace("NVO--CheckBox", "QCheckBox");
+    return sheet;
+}
+
 std::unique_ptr<QDialog> qtBox()
 {
     auto box =
         std::make_unique<QMessageBox>(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No);
     box->setDefaultButton(QMessageBox::No);
-    box->setStyleSheet(NVO::Css::instance().css(NVO::ElementMessageBox));
+    box->button(QMessageBox::No)->setProperty("buttonPrimary", true);
+    box->setStyleSheet(sheetForQt());
     return box;
 }
 

@@ -44,6 +44,8 @@ constexpr Goal goals[] = {
     {"effects/sunken/1200x800", "floor", 2.7},
     {"button/thousand", "push_button", 0.75},
     {"button/memory", "push_button", 1.05},
+    {"dialogs/message_box", "q_message_box", 1.3},
+    {"dialogs/hover", "no_shadow", 1.4},
     {"ribbon/resize", "asked_anew", 0.2},
     {"ribbon/resize", "tool_bars", none},
     {"ribbon/resize_painted", "tool_bars", none},

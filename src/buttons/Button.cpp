@@ -190,11 +190,11 @@ void Button::initStyleSheet()
     switch (m_buttonStyle) {
     case Close:
     case FlyoutClose:
-        setIcon(QIcon(QStringLiteral(":/close")));
+        setIcon(StyleSupport::fileIcon(QStringLiteral(":/close")));
         break;
     case CloseDark:
     case FlyoutCloseDark:
-        setIcon(QIcon(QStringLiteral(":/close_hell")));
+        setIcon(StyleSupport::fileIcon(QStringLiteral(":/close_hell")));
         break;
     case MacClose:
         setIcon(Icon(Pixmap(QStringLiteral(":/macclose"))));

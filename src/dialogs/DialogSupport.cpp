@@ -70,11 +70,11 @@ HairLine *checkBoxLine()
     return line;
 }
 
-QSize sizeForText(const QDialog &dialog, const QSize &plainHint)
+QSize sizeForText(const QDialog &dialog)
 {
     updateLayouts(dialog);
     if (!dialog.layout()->hasHeightForWidth())
-        return plainHint;
+        return dialog.QDialog::sizeHint();
     const int narrowHeight = dialog.heightForWidth(narrowWidth);
     if (dialog.heightForWidth(unlimitedWidth) >= narrowHeight)
         return QSize(narrowWidth, narrowHeight);
@@ -83,7 +83,12 @@ QSize sizeForText(const QDialog &dialog, const QSize &plainHint)
 
 void fitToText(QDialog &dialog)
 {
-    dialog.setMinimumSize(dialog.sizeHint().boundedTo(dialog.screen()->availableSize()));
+    const bool isOwnSize =
+        !dialog.testAttribute(Qt::WA_Resized) || dialog.size() == dialog.minimumSize(); // from the last time
+    const QSize size = dialog.sizeHint().boundedTo(dialog.screen()->availableSize());
+    dialog.setMinimumSize(size);
+    if (isOwnSize)
+        dialog.resize(size);
 }
 
 } // namespace NVO::DialogSupport

@@ -37,12 +37,15 @@ HairLine *checkBoxLine();
 
 /**
  * The size of a box for its text: 520 pixels wide if no more room makes it lower, else 630, with the height
- * for that width, shadow included; \a plainHint if the height does not depend on the width.
+ * for that width, shadow included; that of a plain dialog if the height does not depend on the width.
  */
-QSize sizeForText(const QDialog &dialog, const QSize &plainHint);
+QSize sizeForText(const QDialog &dialog);
 
-/** Keeps a dialog at least as large as its size hint, but no larger than its screen: Qt would make do with
- * two thirds of the screen and cut off the text. */
+/**
+ * Gives a dialog the size of its hint, but no larger than its screen, and keeps it from becoming smaller. Qt
+ * would make do with two thirds of the screen and cut off the text. A size that somebody else gave it is
+ * kept.
+ */
 void fitToText(QDialog &dialog);
 
 } // namespace DialogSupport

@@ -116,7 +116,7 @@ bool MessageBox::isChecked() const
 
 QSize MessageBox::sizeHint() const
 {
-    return DialogSupport::sizeForText(*this, QDialog::sizeHint());
+    return DialogSupport::sizeForText(*this);
 }
 
 QSize MessageBox::minimumSizeHint() const

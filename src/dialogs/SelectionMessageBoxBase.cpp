@@ -132,7 +132,7 @@ bool SelectionMessageBoxBase::checkBoxIsChecked() const
 
 QSize SelectionMessageBoxBase::sizeHint() const
 {
-    return DialogSupport::sizeForText(*this, QDialog::sizeHint());
+    return DialogSupport::sizeForText(*this);
 }
 
 QSize SelectionMessageBoxBase::minimumSizeHint() const

@@ -6,7 +6,9 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFont>
+#include <QHash>
 #include <QPointer>
+#include <QResource>
 #include <QStyle>
 #include <QVector>
 #include <QWidget>
@@ -88,6 +90,26 @@ QPixmap iconPixmap(const QIcon &icon, const QSize &size, const QWidget *widget, 
         qMax(pixmap.width() / (size.width() * ratio), pixmap.height() / (size.height() * ratio));
     pixmap.setDevicePixelRatio(qMax(qreal(1), ratio * fill));
     return pixmap;
+}
+
+QIcon fileIcon(const QString &resource)
+{
+    struct Kept
+    {
+        QByteArray content;
+        QIcon icon;
+    };
+    static QHash<QString, Kept> kept;
+    static bool cleared = (qAddPostRoutine([] { kept.clear(); }), true); // icons end with the application
+    Q_UNUSED(cleared)
+
+    const QResource file(resource);
+    const auto content =
+        QByteArray::fromRawData(reinterpret_cast<const char *>(file.data()), int(file.size()));
+    Kept &entry = kept[resource];
+    if (entry.icon.isNull() || entry.content != content)
+        entry = {QByteArray(content.constData(), content.size()), QIcon(resource)};
+    return entry.icon;
 }
 
 int scaled(int pixelSize)

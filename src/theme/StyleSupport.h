@@ -44,6 +44,12 @@ void applyStyle(QWidget *widget, Element element);
  */
 QPixmap iconPixmap(const QIcon &icon, const QSize &size, const QWidget *widget, QIcon::Mode mode);
 
+/**
+ * The icon QIcon(\a resource). It is kept as long as the resource stays the same, because Qt looks into a
+ * file without an extension to find out its kind.
+ */
+QIcon fileIcon(const QString &resource);
+
 /** \a pixelSize with Css::fontDelta() added. */
 int scaled(int pixelSize);
 
