@@ -1,5 +1,6 @@
 #include <nvo/AbstractButton.h>
 
+#include "buttons/AccessibleButton.h"
 #include "theme/SheetStates.h"
 #include "theme/StyleSupport.h"
 
@@ -56,6 +57,7 @@ int iconExtent(const QSize &iconSize)
 AbstractButton::AbstractButton(QWidget *parent)
     : QPushButton(parent)
 {
+    AccessibleButton::install();
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     connect(this, &QPushButton::pressed, this, &AbstractButton::slotPressed);

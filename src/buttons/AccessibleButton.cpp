@@ -1,9 +1,27 @@
 #include "buttons/AccessibleButton.h"
 
-#include <QPushButton>
+#include <nvo/AbstractButton.h>
+
 #include <QShortcut>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 
 namespace NVO {
+
+namespace {
+
+QAccessibleInterface *createInterface(const QString &, QObject *object)
+{
+    auto *button = qobject_cast<AbstractButton *>(object);
+    return button ? new AccessibleButton(button) : nullptr;
+}
+
+} // namespace
+
+void AccessibleButton::install()
+{
+    QAccessible::installFactory(createInterface);
+}
 
 AccessibleButton::AccessibleButton(QAbstractButton *button)
     : QAccessibleWidget(button)
@@ -16,7 +34,11 @@ QAbstractButton *AccessibleButton::button() const
 
 QAccessible::Role AccessibleButton::role() const
 {
-    return button()->isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
+    if (menu())
+        return QAccessible::ButtonMenu;
+    if (button()->isCheckable())
+        return button()->autoExclusive() ? QAccessible::RadioButton : QAccessible::CheckBox;
+    return QAccessible::Button;
 }
 
 QAccessible::State AccessibleButton::state() const
@@ -25,6 +47,7 @@ QAccessible::State AccessibleButton::state() const
     state.checkable = button()->isCheckable();
     state.checked = button()->isChecked();
     state.pressed = button()->isDown();
+    state.hasPopup = menu() != nullptr;
     if (const auto *pushButton = qobject_cast<const QPushButton *>(button()))
         state.defaultButton = pushButton->isDefault();
     return state;
@@ -33,15 +56,33 @@ QAccessible::State AccessibleButton::state() const
 QString AccessibleButton::text(QAccessible::Text type) const
 {
     const QString own = QAccessibleWidget::text(type);
-    if (!own.isEmpty())
-        return own;
-    if (type == QAccessible::Name)
-        return button()->text();
-    if (type == QAccessible::Accelerator) {
-        if (const auto *shortcut = button()->findChild<QShortcut *>())
-            return shortcut->key().toString(QKeySequence::NativeText);
+    switch (type) {
+    case QAccessible::Name:
+        return !own.isEmpty() ? own : !button()->text().isEmpty() ? button()->text() : toolTip();
+    case QAccessible::Description: // by the tool tip, which does not repeat the name
+        if (!button()->accessibleDescription().isEmpty())
+            return own;
+        return toolTip() == text(QAccessible::Name) ? QString() : toolTip();
+    case QAccessible::Accelerator: {
+        const auto *shortcut = button()->findChild<QShortcut *>();
+        return (shortcut ? shortcut->key() : button()->shortcut()).toString(QKeySequence::NativeText);
     }
-    return QString();
+    default:
+        return own;
+    }
+}
+
+/** The tool tip without markup. */
+QString AccessibleButton::toolTip() const
+{
+    const QString text = button()->toolTip();
+    return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+}
+
+QMenu *AccessibleButton::menu() const
+{
+    const auto *pushButton = qobject_cast<const QPushButton *>(button());
+    return pushButton ? pushButton->menu() : nullptr;
 }
 
 QStringList AccessibleButton::actionNames() const
@@ -54,6 +95,8 @@ void AccessibleButton::doAction(const QString &name)
 {
     if (name != clickAction())
         QAccessibleWidget::doAction(name);
+    else if (button()->isEnabled() && menu())
+        static_cast<QPushButton *>(button())->showMenu();
     else if (button()->isEnabled())
         button()->animateClick();
 }
@@ -70,6 +113,7 @@ QString AccessibleButton::clickAction() const
     case QAccessible::ButtonMenu:
         return showMenuAction();
     case QAccessible::CheckBox:
+    case QAccessible::RadioButton:
         return toggleAction();
     default:
         return pressAction();

@@ -1,6 +1,5 @@
 #include <nvo/IconButton.h>
 
-#include "buttons/IconButtonAccessible.h"
 #include "theme/StyleSupport.h"
 
 #include <QEvent>
@@ -36,7 +35,6 @@ bool isSmall(IconButtonStyle style)
 IconButton::IconButton(QWidget *parent)
     : AbstractButton(parent)
 {
-    IconButtonAccessible::install();
     setFocusPolicy(Qt::StrongFocus);
     initStyleSheet();
 }

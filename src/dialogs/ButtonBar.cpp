@@ -1,6 +1,5 @@
 #include "dialogs/ButtonBar.h"
 
-#include "buttons/AccessibleButton.h"
 #include "dialogs/DialogSupport.h"
 #include "theme/StyleSupport.h"
 
@@ -39,13 +38,6 @@ protected:
     }
 };
 
-/** Assistive technology reads the shortcut of a button of the bar. */
-QAccessibleInterface *createInterface(const QString &, QObject *object)
-{
-    auto *button = qobject_cast<DialogButton *>(object);
-    return button ? new AccessibleButton(button) : nullptr;
-}
-
 /** The descendants of a widget that the keyboard reaches, in their order. */
 QList<QWidget *> focusableIn(QWidget *widget)
 {
@@ -70,7 +62,6 @@ ButtonBar::ButtonBar(QWidget *parent)
     , m_extraHost(new QWidget(this))
     , m_extraSpacer(new QSpacerItem(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum))
 {
-    QAccessible::installFactory(createInterface);
     setObjectName(QStringLiteral("frameActionBar"));
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
