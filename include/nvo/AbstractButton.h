@@ -21,12 +21,15 @@ namespace NVO {
  * has the colour that the sheet gives to the normal or the disabled button. So a `color` in a rule for
  * `:hover`, `:pressed` or `:focus` does not show by itself.
  *
- * The text is on one line and drawn as it is: an ampersand is an ampersand. The icon stands directly in front
+ * The text is on one line and drawn as it is: an ampersand is an ampersand, though Qt makes the letter behind
+ * it a shortcut all the same. The icon stands directly in front
  * of the text and the menu indicator directly behind it, whatever the alignment; from right to left
  * everything is mirrored. The underline is drawn for a font with underline (`text-decoration: underline` in
  * the sheet) and in each state that has an underline colour.
  *
- * The button has Qt::StrongFocus and the cursor Qt::PointingHandCursor.
+ * The size hint is that of text, icon and indicator: padding and border of the sheet are left out. The button
+ * has Qt::StrongFocus and the cursor Qt::PointingHandCursor; a cursor that somebody else sets is lost with
+ * the next press.
  */
 class NVO_EXPORT AbstractButton : public QPushButton
 {
@@ -117,6 +120,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private Q_SLOTS:
     void slotPressed();
@@ -134,7 +138,8 @@ private:
     void paintUnderline(QPainter *painter, const QRect &text) const;
     void paintIcon(QPainter *painter, const QRect &text) const;
     void paintMenuIndicator(QPainter *painter, const QRect &text) const;
-    void paintBeside(QPainter *painter, const QPixmap &pixmap, const QRect &text, bool before) const;
+    void paintBeside(QPainter *painter, const QPixmap &pixmap, const QRect &text, bool before,
+                     qreal gap) const;
     void beginPress();
     void endPress();
 

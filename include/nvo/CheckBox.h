@@ -51,7 +51,8 @@ public:
     bool extraBorder() const { return m_extraBorder; }
     void setExtraBorder(bool extraBorder);
 
-    /** Sets the text and lets the frame follow. Hides QAbstractButton::setText(). */
+    /** Sets the text and lets the frame follow. Hides QAbstractButton::setText(): callers through one bypass
+     * it. */
     void setText(const QString &text);
 
 protected:

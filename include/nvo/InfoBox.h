@@ -17,8 +17,8 @@ class TextHolder;
  *
  * The sheet of ElementInfoBox selects on the dynamic property "style", the key of the style, which a plain
  * box does not have, and on the object names "icon", "iconTextSpace" (the gap between icon and text, whose
- * width the sheet sets) and "html" (the text). The text has font and colour of the sheet; a font delta is
- * added to its size. The height goes by the width.
+ * width the sheet sets) and "html" (the text). The text has font and colour of the sheet; the font
+ * delta does not reach it. The height goes by the width.
  *
  * Links are reached with Tab and opened with Return or Space, too.
  */

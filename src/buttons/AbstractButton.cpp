@@ -27,12 +27,6 @@ constexpr double menuSpacing = 5.0; // between text and menu indicator
 constexpr QSize menuIndicatorSize(9, 5);
 constexpr int menuIndicatorGap = 5; // what the text area leaves beside it
 
-/** A cursor of the default shape stands for none. */
-bool isSet(const QCursor &cursor)
-{
-    return cursor.shape() != QCursor().shape();
-}
-
 void setShape(QCursor *stored, const QCursor &cursor)
 {
     if (stored->shape() != cursor.shape())
@@ -261,25 +255,25 @@ void AbstractButton::paintUnderline(QPainter *painter, const QRect &text) const
 void AbstractButton::paintIcon(QPainter *painter, const QRect &text) const
 {
     const QPixmap pixmap = StyleSupport::iconPixmap(icon(), iconSize(), this, iconMode());
-    paintBeside(painter, pixmap, text, true);
+    paintBeside(painter, pixmap, text, true, iconSpacing);
 }
 
 void AbstractButton::paintMenuIndicator(QPainter *painter, const QRect &text) const
 {
     const Icon indicator{Pixmap(m_menuIndicatorIcon)};
     const QPixmap pixmap = StyleSupport::iconPixmap(indicator, menuIndicatorSize, this, iconMode());
-    paintBeside(painter, pixmap, text, false);
+    paintBeside(painter, pixmap, text, false, menuSpacing);
 }
 
 /** Paints \a pixmap where the reader finds it before or behind \a text. */
-void AbstractButton::paintBeside(QPainter *painter, const QPixmap &pixmap, const QRect &text,
-                                 bool before) const
+void AbstractButton::paintBeside(QPainter *painter, const QPixmap &pixmap, const QRect &text, bool before,
+                                 qreal gap) const
 {
     if (pixmap.isNull())
         return;
     const QSizeF size = QSizeF(pixmap.size()) / pixmap.devicePixelRatio();
-    const qreal left = before != isRightToLeft() ? text.x() - size.width() - iconSpacing
-                                                 : text.x() + text.width() + menuSpacing;
+    const qreal left =
+        before != isRightToLeft() ? text.x() - size.width() - gap : text.x() + text.width() + gap;
     painter->drawPixmap(QPointF(left, (height() - size.height()) * 0.5), pixmap);
 }
 
@@ -287,7 +281,7 @@ void AbstractButton::enterEvent(QEvent *event)
 {
     QPushButton::enterEvent(event);
     m_hovered = true;
-    if (isSet(m_hoverCursor)) {
+    if (StyleSupport::isSet(m_hoverCursor)) {
         m_savedCursor = cursor();
         setCursor(m_hoverCursor);
     }
@@ -296,7 +290,7 @@ void AbstractButton::enterEvent(QEvent *event)
 void AbstractButton::leaveEvent(QEvent *event)
 {
     m_hovered = false;
-    if (isSet(m_hoverCursor))
+    if (StyleSupport::isSet(m_hoverCursor))
         setCursor(m_savedCursor);
     QPushButton::leaveEvent(event);
 }
@@ -326,10 +320,16 @@ void AbstractButton::changeEvent(QEvent *event)
     QPushButton::changeEvent(event);
 }
 
+void AbstractButton::hideEvent(QHideEvent *event)
+{
+    endPress(); // no release will come
+    QPushButton::hideEvent(event);
+}
+
 void AbstractButton::beginPress()
 {
     m_pressed = true;
-    if (isSet(m_pressedCursor)) {
+    if (StyleSupport::isSet(m_pressedCursor)) {
         m_savedCursor = cursor();
         setCursor(m_pressedCursor);
     }
@@ -340,7 +340,7 @@ void AbstractButton::endPress()
     if (!m_pressed)
         return;
     m_pressed = false;
-    if (isSet(m_pressedCursor))
+    if (StyleSupport::isSet(m_pressedCursor))
         setCursor(m_savedCursor);
 }
 

@@ -1,5 +1,7 @@
 #include "buttons/AccessibleButton.h"
 
+#include "theme/StyleSupport.h"
+
 #include <nvo/AbstractButton.h>
 
 #include <QShortcut>
@@ -10,9 +12,9 @@ namespace NVO {
 
 namespace {
 
-QAccessibleInterface *createInterface(const QString &, QObject *object)
+QAccessibleInterface *createInterface(const QString &className, QObject *object)
 {
-    auto *button = qobject_cast<AbstractButton *>(object);
+    auto *button = StyleSupport::exactly<AbstractButton>(className, object);
     return button ? new AccessibleButton(button) : nullptr;
 }
 
@@ -64,7 +66,7 @@ QString AccessibleButton::text(QAccessible::Text type) const
             return own;
         return toolTip() == text(QAccessible::Name) ? QString() : toolTip();
     case QAccessible::Accelerator: {
-        const auto *shortcut = button()->findChild<QShortcut *>();
+        const auto *shortcut = button()->findChild<QShortcut *>(QString(), Qt::FindDirectChildrenOnly);
         return (shortcut ? shortcut->key() : button()->shortcut()).toString(QKeySequence::NativeText);
     }
     default:

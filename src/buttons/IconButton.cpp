@@ -35,7 +35,6 @@ bool isSmall(IconButtonStyle style)
 IconButton::IconButton(QWidget *parent)
     : AbstractButton(parent)
 {
-    setFocusPolicy(Qt::StrongFocus);
     initStyleSheet();
 }
 

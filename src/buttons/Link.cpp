@@ -9,7 +9,6 @@ namespace NVO {
 Link::Link(QWidget *parent)
     : AbstractButton(parent)
 {
-    setFocusPolicy(Qt::StrongFocus);
     initStyleSheet();
 }
 

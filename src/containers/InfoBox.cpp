@@ -83,8 +83,10 @@ void InfoBox::setIconAlignment(Qt::Alignment alignment)
 
 void InfoBox::setAdditionalWidget(QWidget *widget)
 {
-    if (widget && widget->isAncestorOf(this))
-        return;
+    for (const QWidget *around = this; around; around = around->parentWidget()) {
+        if (around == widget)
+            return; // also where there is a window in between
+    }
     delete m_textColumn->takeAt(1);
     if (widget)
         m_textColumn->addWidget(widget);

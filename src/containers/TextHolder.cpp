@@ -1,5 +1,7 @@
 #include "containers/TextHolder.h"
 
+#include "theme/StyleSupport.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QAccessibleWidget>
 #include <QMouseEvent>
@@ -35,9 +37,9 @@ public:
     }
 };
 
-QAccessibleInterface *createInterface(const QString &, QObject *object)
+QAccessibleInterface *createInterface(const QString &className, QObject *object)
 {
-    auto *holder = qobject_cast<TextHolder *>(object);
+    auto *holder = StyleSupport::exactly<TextHolder>(className, object);
     return holder ? new AccessibleText(holder) : nullptr;
 }
 
@@ -66,6 +68,7 @@ TextHolder::TextHolder(QWidget *parent)
 void TextHolder::setHtml(const QString &html)
 {
     m_document.setHtml(html);
+    unsetCursor(); // what was a link under the mouse may be none any more
     findLinks();
     textChanged();
     announce(this, QAccessible::NameChanged);
@@ -217,11 +220,14 @@ void TextHolder::keyPressEvent(QKeyEvent *event)
 {
     const bool opens =
         event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
-    if (!opens || m_currentLink < 0) {
+    const bool isPlain = !(event->modifiers() & ~Qt::KeypadModifier);
+    if (!opens || !isPlain || m_currentLink < 0) {
         QWidget::keyPressEvent(event);
         return;
     }
     event->accept();
+    if (event->isAutoRepeat())
+        return;
     Q_EMIT linkActivated(QString(m_links.at(m_currentLink).target));
 }
 

@@ -50,12 +50,6 @@ constexpr std::array<Row, 26> rows{{
     {DialogButton::UserDefined, "", "", QDialogButtonBox::ActionRole},
 }};
 
-/** A cursor of the default shape stands for none. */
-bool isSet(const QCursor &cursor)
-{
-    return cursor.shape() != QCursor().shape();
-}
-
 QSize wideEnough(const QSize &size)
 {
     return size.expandedTo(QSize(minimumButtonWidth, 0));
@@ -107,7 +101,7 @@ QSize DialogButton::minimumSizeHint() const
 void DialogButton::enterEvent(QEvent *event)
 {
     QWidget::enterEvent(event); // NOLINT(bugprone-parent-virtual-call)
-    if (isSet(m_hoverCursor)) {
+    if (StyleSupport::isSet(m_hoverCursor)) {
         m_savedCursor = cursor();
         setCursor(m_hoverCursor);
     }
@@ -115,7 +109,7 @@ void DialogButton::enterEvent(QEvent *event)
 
 void DialogButton::leaveEvent(QEvent *event)
 {
-    if (isSet(m_hoverCursor))
+    if (StyleSupport::isSet(m_hoverCursor))
         setCursor(m_savedCursor);
     QWidget::leaveEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }

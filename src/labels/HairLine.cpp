@@ -10,9 +10,10 @@ namespace NVO {
 
 namespace {
 
-QAccessibleInterface *createInterface(const QString &, QObject *object)
+QAccessibleInterface *createInterface(const QString &className, QObject *object)
 {
-    auto *line = dynamic_cast<HairLine *>(object); // has no meta-object to be known by
+    // It has no meta-object of its own to be known by.
+    auto *line = className == QLatin1String("QWidget") ? dynamic_cast<HairLine *>(object) : nullptr;
     return line ? new QAccessibleWidget(line, QAccessible::Separator) : nullptr;
 }
 

@@ -33,9 +33,9 @@ public:
     QAccessibleInterface *child(int) const override { return nullptr; }
 };
 
-QAccessibleInterface *createInterface(const QString &, QObject *object)
+QAccessibleInterface *createInterface(const QString &className, QObject *object)
 {
-    auto *separator = qobject_cast<Separator *>(object);
+    auto *separator = StyleSupport::exactly<Separator>(className, object);
     return separator ? new AccessibleSeparator(separator) : nullptr;
 }
 

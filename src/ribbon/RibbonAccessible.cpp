@@ -3,6 +3,7 @@
 #include "buttons/AccessibleButton.h"
 #include "ribbon/RibbonGroupButton.h"
 #include "ribbon/RibbonSupport.h"
+#include "theme/StyleSupport.h"
 
 #include <nvo/Action.h>
 #include <nvo/RibbonButton.h>
@@ -109,15 +110,18 @@ public:
     }
 };
 
-QAccessibleInterface *createInterface(const QString &, QObject *object)
+QAccessibleInterface *createInterface(const QString &className, QObject *object)
 {
-    if (qobject_cast<RibbonButton *>(object) || qobject_cast<RibbonCheckBox *>(object))
-        return new ByAction<AccessibleButton>(static_cast<QAbstractButton *>(object));
-    if (auto *groupButton = qobject_cast<RibbonGroupButton *>(object))
+    using StyleSupport::exactly;
+    if (auto *button = exactly<RibbonButton>(className, object))
+        return new ByAction<AccessibleButton>(button);
+    if (auto *checkBox = exactly<RibbonCheckBox>(className, object))
+        return new ByAction<AccessibleButton>(checkBox);
+    if (auto *groupButton = exactly<RibbonGroupButton>(className, object))
         return new AccessibleGroupButton(groupButton);
-    if (auto *label = qobject_cast<RibbonLabel *>(object))
+    if (auto *label = exactly<RibbonLabel>(className, object))
         return new ByAction<QAccessibleWidget>(label, QAccessible::StaticText);
-    if (auto *group = qobject_cast<RibbonGroup *>(object))
+    if (auto *group = exactly<RibbonGroup>(className, object))
         return new ByAction<QAccessibleWidget>(group, QAccessible::Grouping);
     if (RibbonSupport::isKeytip(object))
         return new AccessibleKeytip(static_cast<QWidget *>(object));

@@ -84,10 +84,10 @@ QPixmap iconPixmap(const QIcon &icon, const QSize &size, const QWidget *widget, 
     if (QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps))
         return icon.pixmap(widget->window()->windowHandle(), size, mode, QIcon::Off);
     const qreal ratio = widget->devicePixelRatioF();
-    QPixmap pixmap = icon.pixmap(size * ratio, mode, QIcon::Off);
+    const QSize wanted = size * ratio;
+    QPixmap pixmap = icon.pixmap(wanted, mode, QIcon::Off);
     // An icon that has nothing as large keeps its own size.
-    const qreal fill =
-        qMax(pixmap.width() / (size.width() * ratio), pixmap.height() / (size.height() * ratio));
+    const qreal fill = qMax(qreal(pixmap.width()) / wanted.width(), qreal(pixmap.height()) / wanted.height());
     pixmap.setDevicePixelRatio(qMax(qreal(1), ratio * fill));
     return pixmap;
 }

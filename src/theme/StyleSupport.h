@@ -2,6 +2,7 @@
 
 #include <nvo/Element.h>
 
+#include <QCursor>
 #include <QIcon>
 #include <QList>
 #include <QMetaEnum>
@@ -61,6 +62,23 @@ template <typename Enum>
 QString enumKey(Enum value)
 {
     return QString::fromLatin1(QMetaEnum::fromType<Enum>().valueToKey(static_cast<int>(value)));
+}
+
+/**
+ * \a object as a \a Widget where QAccessible, which goes up the classes of an object, has come to that class:
+ * an application may describe its subclasses in its own way.
+ */
+template <typename Widget>
+Widget *exactly(const QString &className, QObject *object)
+{
+    return className == QLatin1String(Widget::staticMetaObject.className()) ? qobject_cast<Widget *>(object)
+                                                                            : nullptr;
+}
+
+/** A cursor of the default shape stands for none. */
+inline bool isSet(const QCursor &cursor)
+{
+    return cursor.shape() != QCursor().shape();
 }
 
 /** Whether the look of \a widget comes from a style sheet, its own or one above it. */

@@ -9,7 +9,6 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QAccessible>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -188,25 +187,6 @@ private Q_SLOTS:
             QCOMPARE(holder->width(), width - 29); // the icon keeps its width, also in wide boxes
             QCOMPARE(box->height(), qMax(20, holder->heightForWidth(holder->width())));
         }
-    }
-
-    void sameWidthIsLaidOutOnce()
-    {
-        TextHolder holder(nullptr);
-        holder.setHtml("<p>" + QString(100 * 1024, 'x').replace("xxxxxx", "Beleg ") + "</p>");
-        QElapsedTimer timer;
-        timer.start();
-        holder.heightForWidth(430);
-        const qint64 once = timer.nsecsElapsed();
-        timer.restart();
-        for (int i = 0; i < 1000; ++i)
-            holder.heightForWidth(430);
-        QVERIFY2(timer.nsecsElapsed() < 20 * once, "lays out again and again");
-        holder.sizeHint();
-        timer.restart();
-        for (int i = 0; i < 1000; ++i)
-            holder.sizeHint();
-        QVERIFY(timer.nsecsElapsed() < 20 * once);
     }
 
     void painting()

@@ -309,7 +309,7 @@ void NoticesPage::addBorders()
     row->addStretch();
     addSection(
         QStringLiteral("Zusätzlicher Rahmen"),
-        QStringLiteral("Der Rahmen folgt dem Text. In diesen Themen ist er eine punktierte Linie darunter."))
+        QStringLiteral("Der Rahmen folgt dem Text. In diesen Themen ist er eine gestrichelte Linie darunter."))
         ->addLayout(row);
 }
 
