@@ -28,7 +28,8 @@ class Label;
  * ApplyRole, YesRole and ActionRole ask checkAccept() and accept, the others reject. Print only emits
  * printClicked(). After exec() pressedButton() tells which button it was. Esc rejects in the name of the
  * first of Close, Cancel, No, NoSave, Ignore, SurveyLater and SurveyNo that is there. Enter presses the
- * default button; buttons with a shortcut take its letter while no text field has the focus.
+ * button that has the focus, or else the default one. Buttons with a shortcut take its letter unless what has
+ * the focus takes letters itself, as a text field does; lists and closed combo boxes do not.
  *
  * Sheets select on the object names "NvoDialog", "frame", "frameTitleBar", "title" and "frameActionBar".
  */
@@ -73,7 +74,8 @@ public:
     void enableResize(bool enable);
 
     /**
-     * Puts a shadow around the frame, which takes 10 pixels at the left, right and bottom. Switches it off if
+     * To be called before the first show: a window that is there already does not become translucent. Puts a
+     * shadow around the frame, which takes 10 pixels at the left, right and bottom. Switches it off if
      * \a enable is false, Product::effectsEnabled is false, or there is a shadow already.
      */
     void setShadowEnabled(bool enable);
@@ -87,9 +89,13 @@ public:
     void addButton(const QString &text, QDialogButtonBox::ButtonRole role);
     /** Gives the buttons of a type another text. */
     void setButtonText(ButtonType type, const QString &text);
-    /** Makes the button of a type the default one and gives it the focus; none if there is no such button. */
+    /** Makes the button of a type the default one, which gets the focus with it; none if there is no such
+     * button. */
     void setDefaultButton(ButtonType type);
-    /** The type of the button that was pressed last; NoButton before and for a closed window. */
+    /**
+     * The type of the button that was pressed last, or that Esc stood for; NoButton before. Showing the
+     * dialog again or closing the window does not change it.
+     */
     ButtonType pressedButton() const { return m_pressedButtonType; }
 
     /** Sets the path that helpClicked() carries and shows the help button; the empty path hides it. */

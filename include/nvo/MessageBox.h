@@ -41,6 +41,7 @@ Q_SIGNALS:
     void linkActivated(QString p_link);
 
 protected:
+    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:

@@ -69,6 +69,8 @@ protected:
     /** Where the buttons of the derived class go; its layout is a QVBoxLayout without margins. */
     QWidget *buttonsContainer() const { return m_buttonsContainerWidget; }
 
+    bool event(QEvent *event) override;
+
 private:
     QWidget *createContent(const QString &caption, const QString &subHeader);
     void createCheckBoxBar();

@@ -70,6 +70,7 @@ ButtonBar::ButtonBar(QWidget *parent)
     m_helpButton->setText(QStringLiteral("Hilfe"));
     m_helpButton->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_helpButton->setFocusPolicy(Qt::StrongFocus);
+    m_helpButton->setAutoDefault(false); // else Qt makes it the default button where there is no other
     m_helpButton->hide();
     DialogSupport::sleep(m_helpButton);
     row->addWidget(m_helpButton);
@@ -232,6 +233,13 @@ void ButtonBar::updateVisible()
 {
     const bool hasExtra = m_extraWidget && m_extraWidget->isVisibleTo(m_extraHost);
     setVisible(!m_helpPath.isEmpty() || !m_buttonBox->buttons().isEmpty() || hasExtra);
+}
+
+/** What is in the extra widget may have come after it. */
+void ButtonBar::showEvent(QShowEvent *event)
+{
+    updateTabOrder();
+    QFrame::showEvent(event);
 }
 
 /** The keyboard goes from help over the extra widget to the buttons, as they stand. */

@@ -59,6 +59,9 @@ Q_SIGNALS:
     void helpClicked(QString p_helpPath);
     void buttonClicked(NVO::DialogButton::ButtonType buttonType);
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     void insertButton(DialogButton *button, QDialogButtonBox::ButtonRole role);
     void addShortcut(DialogButton *button, const QKeySequence &keys);

@@ -14,6 +14,7 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -205,6 +206,7 @@ void Dialog::setShadowEnabled(bool enable)
     m_frame->setGraphicsEffect(shadow ? createDefaultShadowEffectRect() : nullptr);
     layout()->setContentsMargins(shadow ? shadowMargins : QMargins());
     setAttribute(Qt::WA_TranslucentBackground, shadow);
+    setAttribute(Qt::WA_NoSystemBackground, shadow); // comes with the former, but does not go with it
     const int outerMargin = shadow ? shadowWidth : 0;
     m_resizeHandler->setMargins(outerMargin, outerMargin + resizeBand);
 }
@@ -331,6 +333,13 @@ void Dialog::buttonClicked(ButtonType type)
 
 void Dialog::keyPressEvent(QKeyEvent *event)
 {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto *focused = qobject_cast<QPushButton *>(focusWidget());
+    if (isEnter && focused && focused->hasFocus() && focused->isEnabled()) {
+        event->accept();
+        focused->click(); // also one that never becomes the default button, such as help
+        return;
+    }
     if (event->key() != Qt::Key_Escape) {
         QDialog::keyPressEvent(event);
         return;

@@ -8,6 +8,7 @@
 #include <nvo/Product.h>
 
 #include <QDialog>
+#include <QPointer>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -83,12 +84,25 @@ QSize sizeForText(const QDialog &dialog)
 
 void fitToText(QDialog &dialog)
 {
-    const bool isOwnSize =
-        !dialog.testAttribute(Qt::WA_Resized) || dialog.size() == dialog.minimumSize(); // from the last time
-    const QSize size = dialog.sizeHint().boundedTo(dialog.screen()->availableSize());
-    dialog.setMinimumSize(size);
-    if (isOwnSize)
-        dialog.resize(size);
+    QSize size = dialog.sizeHint();
+    const int leastWidth = dialog.layout()->totalMinimumSize().width();
+    if (size.width() < leastWidth)
+        size = QSize(leastWidth, dialog.heightForWidth(leastWidth));
+    size = size.boundedTo(dialog.screen()->availableSize());
+    const bool isResized = dialog.testAttribute(Qt::WA_Resized);
+    dialog.resize(isResized || dialog.isVisible() ? size.expandedTo(dialog.size()) : size);
+    dialog.setAttribute(Qt::WA_Resized, isResized); // by others: the next time it may be another text
+}
+
+void showFitted(QDialog &dialog, const std::function<void()> &show)
+{
+    const QPointer<QDialog> alive(&dialog);
+    const bool isResized = dialog.testAttribute(Qt::WA_Resized);
+    fitToText(dialog);
+    dialog.setAttribute(Qt::WA_Resized); // else Qt finds a size of its own
+    show();
+    if (alive)
+        dialog.setAttribute(Qt::WA_Resized, isResized);
 }
 
 } // namespace NVO::DialogSupport

@@ -5,6 +5,8 @@
 #include <QSize>
 #include <QString>
 
+#include <functional>
+
 class QDialog;
 class QVBoxLayout;
 class QWidget;
@@ -42,11 +44,13 @@ HairLine *checkBoxLine();
 QSize sizeForText(const QDialog &dialog);
 
 /**
- * Gives a dialog the size of its hint, but no larger than its screen, and keeps it from becoming smaller. Qt
- * would make do with two thirds of the screen and cut off the text. A size that somebody else gave it is
- * kept.
+ * Makes a dialog at least as large as its hint and its buttons ask for, but no larger than its screen. Qt
+ * would make do with two thirds of the screen and cut off the text.
  */
 void fitToText(QDialog &dialog);
+
+/** Runs \a show after that. A size that the dialog was not given by others is found anew the next time. */
+void showFitted(QDialog &dialog, const std::function<void()> &show);
 
 } // namespace DialogSupport
 } // namespace NVO

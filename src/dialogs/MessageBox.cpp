@@ -8,6 +8,7 @@
 #include <nvo/Pixmap.h>
 
 #include <QAccessible>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QTextDocumentFragment>
 #include <QVBoxLayout>
@@ -94,8 +95,6 @@ void MessageBox::setCheckbox(const QString &text, Qt::CheckState state)
     m_checkBoxBar->setVisible(!text.isEmpty());
     setCheckState(state);
     updateFooterVisible();
-    if (isVisible())
-        DialogSupport::fitToText(*this);
 }
 
 void MessageBox::setCheckState(Qt::CheckState state)
@@ -127,8 +126,16 @@ QSize MessageBox::minimumSizeHint() const
 void MessageBox::setVisible(bool visible)
 {
     if (visible)
+        DialogSupport::showFitted(*this, [this] { Dialog::setVisible(true); });
+    else
+        Dialog::setVisible(false);
+}
+
+bool MessageBox::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest && isVisible())
         DialogSupport::fitToText(*this);
-    Dialog::setVisible(visible);
+    return Dialog::event(event);
 }
 
 void MessageBox::showEvent(QShowEvent *event)

@@ -6,6 +6,7 @@
 #include <nvo/HairLine.h>
 #include <nvo/Label.h>
 
+#include <QEvent>
 #include <QVBoxLayout>
 
 namespace NVO {
@@ -98,8 +99,6 @@ void SelectionMessageBoxBase::setInfoBoxVisible(bool visible)
     // What counts is what was asked for, also before the box itself shows.
     if (visible == m_infoBoxFrame->isHidden())
         m_infoBoxFrame->setVisible(visible);
-    if (isVisible())
-        DialogSupport::fitToText(*this);
 }
 
 void SelectionMessageBoxBase::setCheckBoxText(const QString &text)
@@ -115,8 +114,6 @@ void SelectionMessageBoxBase::setCheckBoxVisible(bool visible)
     m_checkBoxBar->setVisible(visible);
     updateHairLineVisible();
     updateFooterVisible();
-    if (isVisible())
-        DialogSupport::fitToText(*this);
 }
 
 void SelectionMessageBoxBase::setCheckBoxChecked(bool checked)
@@ -143,8 +140,16 @@ QSize SelectionMessageBoxBase::minimumSizeHint() const
 void SelectionMessageBoxBase::setVisible(bool visible)
 {
     if (visible)
+        DialogSupport::showFitted(*this, [this] { Dialog::setVisible(true); });
+    else
+        Dialog::setVisible(false);
+}
+
+bool SelectionMessageBoxBase::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest && isVisible())
         DialogSupport::fitToText(*this);
-    Dialog::setVisible(visible);
+    return Dialog::event(event);
 }
 
 /** The line parts check box and button row, if there are both. */

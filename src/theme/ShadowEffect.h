@@ -11,6 +11,8 @@
 
 #include <private/qgraphicseffect_p.h>
 
+#include <algorithm>
+
 namespace NVO {
 
 /** What casts the shadow of a ShadowEffect. */
@@ -45,7 +47,7 @@ protected:
     {
         if constexpr (sourceShape == ShadowOfWidget) {
             const QWidget *widget = source()->widget();
-            if (widget && isOnScreen(*widget, *painter)) {
+            if (widget && isOnScreen(*widget, *painter) && !hasEffectInside(*widget)) {
                 drawAround(*widget, painter);
                 return;
             }
@@ -68,6 +70,15 @@ private:
     {
         QBackingStore *store = widget.backingStore();
         return store && store->paintDevice() == painter.device();
+    }
+
+    /** Whether something in a widget has an effect, which could not begin to paint while this one does. */
+    static bool hasEffectInside(const QWidget &widget)
+    {
+        const QList<QWidget *> descendants = widget.findChildren<QWidget *>();
+        return std::any_of(descendants.begin(), descendants.end(), [](const QWidget *descendant) {
+            return descendant->graphicsEffect() && descendant->isVisible();
+        });
     }
 
     /**

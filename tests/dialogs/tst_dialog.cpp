@@ -299,6 +299,22 @@ private Q_SLOTS:
                 QCOMPARE(button->property("DarkBackground"), QVariant(dark));
         }
         QVERIFY(!dialog.button(DialogButton::UserDefined)->property("buttonSecondary").isValid());
+
+        // Help never becomes the default button, but takes Enter while it has the focus.
+        TestedDialog question(nullptr, ElementDialog, DialogButton::Cancel, DialogButton::NoButton,
+                              Dialog::NoFlag);
+        auto *edit = new QLineEdit;
+        question.setContent(edit);
+        question.setHelpFilePath("hilfe");
+        QSignalSpy helps(&question, &Dialog::helpClicked);
+        QVERIFY(showActive(question));
+        question.help()->setFocus();
+        QTest::keyClick(question.help(), Qt::Key_Return);
+        QCOMPARE(helps.count(), 1);
+        edit->setFocus();
+        QTest::keyClick(edit, Qt::Key_Return);
+        QCOMPARE(helps.count(), 1);
+        QCOMPARE(question.pressedButton(), DialogButton::Cancel);
     }
 
     void tabOrder()
@@ -344,6 +360,7 @@ private Q_SLOTS:
                 QCOMPARE(frame->graphicsEffect() != nullptr, shows);
                 QCOMPARE(dialog.layout()->contentsMargins(), shows ? QMargins(10, 0, 10, 10) : QMargins());
                 QCOMPARE(dialog.testAttribute(Qt::WA_TranslucentBackground), shows);
+                QCOMPARE(dialog.testAttribute(Qt::WA_NoSystemBackground), shows);
             }
             dialog.setShadowEnabled(false);
             QVERIFY(!frame->graphicsEffect());

@@ -3,8 +3,13 @@
 
 #include "dialogs/WidgetResizeHandler.h"
 
+#include <nvo/Button.h>
+#include <nvo/MessageBox.h>
+
 #include <QtTest>
 #include <QtWidgets>
+
+using namespace NVO;
 
 namespace {
 
@@ -37,6 +42,12 @@ struct Window : QDialog
 QRect managedGeometry(const QWidget &window)
 {
     return window.windowHandle()->geometry();
+}
+
+/** Waits for the focus: Qt takes a window for active as soon as the window is that it belongs to. */
+bool hasFocus(const QWidget &window)
+{
+    return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
 }
 
 } // namespace
@@ -125,6 +136,85 @@ private Q_SLOTS:
         QTRY_VERIFY(!QGuiApplication::overrideCursor());
         QTest::qWait(50);
         QVERIFY(!QGuiApplication::overrideCursor());
+    }
+
+    void keysEndTheDialog()
+    {
+        constexpr int stillOpen = -1;
+        using B = DialogButton;
+        const QMap<Qt::Key, B::ButtonType> keys{
+            {Qt::Key_Escape, B::Cancel}, {Qt::Key_Return, B::Next}, {Qt::Key_O, B::Ok}};
+        for (int i = 0; i < 2 * keys.size(); ++i) {
+            const Qt::Key key = keys.keys().at(i / 2);
+            const bool inField = i % 2, typed = inField && key == Qt::Key_O;
+            Dialog dialog(m_window.data(), ElementDialog, B::Ok | B::Cancel | B::Next, B::Next,
+                          Dialog::NoFlag);
+            dialog.setContent(new QLineEdit);
+            const B *focused = nullptr;
+            QTimer::singleShot(0, &dialog, [&] {
+                focused = hasFocus(dialog) ? qobject_cast<B *>(QApplication::focusWidget()) : nullptr;
+                if (inField)
+                    dialog.content()->setFocus();
+                QTest::keyClick(dialog.windowHandle(), key);
+                if (dialog.isVisible())
+                    dialog.done(stillOpen);
+            });
+            QCOMPARE(dialog.exec(), typed ? stillOpen : int(key != Qt::Key_Escape));
+            QVERIFY(focused && focused->buttonType() == B::Next);
+            QCOMPARE(dialog.pressedButton(), typed ? B::NoButton : keys[key]);
+        }
+    }
+
+    void mouseMovesAndResizesTheDialog()
+    {
+        for (const int shadow : {0, 10}) {
+            Dialog dialog(m_window.data());
+            dialog.findChild<QFrame *>("frameTitleBar")->setFixedHeight(60);
+            dialog.setContent(new QLabel);
+            auto *button = new Button; // with a shadow of its own
+            button->setStyleSheet("background: #ff8000; border: none; min-height: 30px");
+            dialog.setExtraActionBarWidget(button);
+            dialog.setShadowEnabled(shadow > 0);
+            QRect expected(500, 200, 340, 260);
+            dialog.setGeometry(expected);
+            dialog.show();
+            const QPoint onButton = button->mapToGlobal(button->rect().center());
+            QTRY_COMPARE(dialog.screen()->grabWindow(0).toImage().pixelColor(onButton), QColor("#ff8000"));
+            Mouse mouse(&dialog);
+            const auto drag = [&](const QPoint &from, const QPoint &delta) {
+                mouse.drag(dialog.mapToGlobal(from), delta);
+                QTest::qWait(150); // the window manager tells of each step on the way
+            };
+            const auto corner = [&](int away) { return dialog.rect().bottomRight() - QPoint(away, away); };
+            drag(dialog.rect().center(), {40, 30});
+            drag(corner(shadow + 2), {30, 20});
+            QCOMPARE(managedGeometry(dialog), expected);
+            drag({170, 30}, {60, 50});
+            expected.translate(60, 50);
+            QTRY_COMPARE(managedGeometry(dialog), expected);
+            dialog.enableResize(true);
+            drag(corner(shadow + 2), {30, 20});
+            expected.setSize({370, 280});
+            QTRY_COMPARE(managedGeometry(dialog), expected);
+            drag(corner(shadow > 0 ? shadow - 2 : 20), {30, 20}); // on the shadow, or inside
+            QCOMPARE(managedGeometry(dialog), expected);
+        }
+    }
+
+    void messageBoxKeepsItsText()
+    {
+        for (const int words : {1, 40, 250}) {
+            MessageBox box(QMessageBox::Question, "Titel", QString("Buchung ").repeated(words),
+                           DialogButton::Yes, DialogButton::Yes, m_window.data());
+            const auto *message = box.findChild<QLabel *>("mmessage");
+            box.show();
+            for (const char *text : {"", "Nicht mehr fragen", ""}) {
+                box.setCheckbox(text, Qt::Checked);
+                QTest::qWait(100);
+                QCOMPARE(managedGeometry(box).size(), box.size());
+                QVERIFY(message->height() >= message->heightForWidth(message->width()));
+            }
+        }
     }
 
 private:

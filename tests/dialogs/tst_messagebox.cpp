@@ -72,6 +72,38 @@ private Q_SLOTS:
         }
     }
 
+    void growsWhileShown()
+    {
+        MessageBox box(QMessageBox::NoIcon, "Titel", QString("Zeile ").repeated(60), DialogButton::Ok,
+                       DialogButton::Ok, nullptr);
+        box.show();
+        const auto fits = [&box] { return box.height() >= box.heightForWidth(box.width()); };
+        box.setWindowTitle(QString("Langer Titel ").repeated(30));
+        QTRY_VERIFY(fits());
+        box.setCheckbox("Merken", Qt::Checked);
+        QTRY_VERIFY(fits());
+        box.hide();
+        box.setCheckbox(QString(), Qt::Checked);
+        box.setWindowTitle("Titel");
+        box.show();
+        QCOMPARE(box.size(), box.sizeHint()); // not what it was before
+        box.resize(700, 500);
+        box.hide();
+        box.show();
+        QCOMPARE(box.size(), QSize(700, 500));
+
+        const auto wide = DialogButton::SetBookmark | DialogButton::DeleteBookmark | DialogButton::GoToMapping
+                          | DialogButton::AbgabeComplete;
+        MessageBox row(QMessageBox::NoIcon, "Titel", "Text", wide, DialogButton::NoButton, nullptr);
+        row.show();
+        for (const DialogButton *button : row.findChildren<DialogButton *>())
+            QVERIFY(button->width() >= button->sizeHint().width());
+        MessageBox narrow(QMessageBox::NoIcon, "Titel", "Text", DialogButton::Ok, DialogButton::Ok, nullptr);
+        narrow.setFixedWidth(400);
+        narrow.show();
+        QCOMPARE(narrow.width(), 400);
+    }
+
     void parts()
     {
         const QMap<QMessageBox::Icon, QString> pixmaps{

@@ -8,7 +8,9 @@ QtMessageHandler nextHandler = nullptr;
 
 void withoutPlatformNoise(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    if (!message.startsWith(QLatin1String("This plugin does not support ")))
+    // The last comes when a window goes while the X server is being asked about it.
+    if (!message.startsWith(QLatin1String("This plugin does not support "))
+        && !message.startsWith(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)")))
         nextHandler(type, context, message);
 }
 
