@@ -120,10 +120,9 @@ private Q_SLOTS:
         for (const NVO::Element element :
              {NVO::ElementButton, NVO::ElementCheckBox, NVO::ElementDialog, NVO::ElementDialogButton,
               NVO::ElementIconButton, NVO::ElementInfoBox, NVO::ElementLink, NVO::ElementMessageBox,
-              NVO::ElementSelectionMessageBox, NVO::ElementSeparator,
-              NVO::ElementRibbon, NVO::ElementRibbonButton, NVO::ElementRibbonCheckBox,
-              NVO::ElementRibbonGroup, NVO::ElementRibbonGroupButton, NVO::ElementRibbonGroupObject,
-              NVO::ElementRibbonLabel}) {
+              NVO::ElementSelectionMessageBox, NVO::ElementSeparator, NVO::ElementRibbon,
+              NVO::ElementRibbonButton, NVO::ElementRibbonCheckBox, NVO::ElementRibbonGroup,
+              NVO::ElementRibbonGroupButton, NVO::ElementRibbonGroupObject, NVO::ElementRibbonLabel}) {
             const QString sheet = NVO::Css::instance().css(element);
             QCss::StyleSheet parsed;
             QVERIFY(!sheet.isEmpty() && QCss::Parser(sheet).parse(&parsed, Qt::CaseSensitive));

@@ -307,9 +307,9 @@ void NoticesPage::addBorders()
         row->addWidget(box);
     }
     row->addStretch();
-    addSection(
-        QStringLiteral("Zusätzlicher Rahmen"),
-        QStringLiteral("Der Rahmen folgt dem Text. In diesen Themen ist er eine gestrichelte Linie darunter."))
+    addSection(QStringLiteral("Zusätzlicher Rahmen"),
+               QStringLiteral(
+                   "Der Rahmen folgt dem Text. In diesen Themen ist er eine gestrichelte Linie darunter."))
         ->addLayout(row);
 }
 
