@@ -6,13 +6,16 @@
 #include <nvo/Action.h>
 #include <nvo/Button.h>
 #include <nvo/CheckBox.h>
+#include <nvo/ComboBox.h>
 #include <nvo/Css.h>
 #include <nvo/Dialog.h>
 #include <nvo/DialogButton.h>
 #include <nvo/Element.h>
 #include <nvo/Export.h>
+#include <nvo/Flyout.h>
 #include <nvo/Font.h>
 #include <nvo/GraphicsEffect.h>
+#include <nvo/GroupBox.h>
 #include <nvo/HairLine.h>
 #include <nvo/Icon.h>
 #include <nvo/IconButton.h>
@@ -34,6 +37,10 @@
 #include <nvo/RibbonLayoutHelper.h>
 #include <nvo/RibbonLayoutItem.h>
 #include <nvo/RibbonTab.h>
+#include <nvo/ScrollArea.h>
+#include <nvo/ScrollAreaWithButton.h>
+#include <nvo/ScrollBar.h>
+#include <nvo/ScrollButton.h>
 #include <nvo/SelectionMessageBoxBase.h>
 #include <nvo/Separator.h>
 #include <nvo/ShadowSimple.h>

@@ -46,6 +46,7 @@ private Q_SLOTS:
             "arrow_right_dark_6x12 checkmark_16 checkmark_hell_16 close_16 close_hell_16 scrollarrow_up "
             "scrollarrow_up_hell scrollarrow_up_error scrollarrow_down scrollarrow_down_hell "
             "checkbox_check checkbox_check_disabled checkbox_partial checkbox_partial_disabled "
+            "combobox_arrow combobox_arrow_disabled "
             "scrollarrow_down_error sym_minus sym_plus aufhoehe_16 aufbreite_16 macclose";
         for (const QString &name : names.split(' ')) {
             const QImage plain(":/" + name);
@@ -117,12 +118,27 @@ private Q_SLOTS:
     void sheets()
     {
         const QRegularExpression tokens("\\b((BASE)?COLOR|GRADIENT)_\\w+|\\b(SEMI)?(BOLD|LIGHT)\\b");
-        for (const NVO::Element element :
-             {NVO::ElementButton, NVO::ElementCheckBox, NVO::ElementDialog, NVO::ElementDialogButton,
-              NVO::ElementIconButton, NVO::ElementInfoBox, NVO::ElementLink, NVO::ElementMessageBox,
-              NVO::ElementSelectionMessageBox, NVO::ElementSeparator, NVO::ElementRibbon,
-              NVO::ElementRibbonButton, NVO::ElementRibbonCheckBox, NVO::ElementRibbonGroup,
-              NVO::ElementRibbonGroupButton, NVO::ElementRibbonGroupObject, NVO::ElementRibbonLabel}) {
+        for (const NVO::Element element : {NVO::ElementButton,
+                                           NVO::ElementCheckBox,
+                                           NVO::ElementComboBox,
+                                           NVO::ElementDialog,
+                                           NVO::ElementDialogButton,
+                                           NVO::ElementGroupBox,
+                                           NVO::ElementIconButton,
+                                           NVO::ElementInfoBox,
+                                           NVO::ElementLink,
+                                           NVO::ElementMessageBox,
+                                           NVO::ElementScrollBar,
+                                           NVO::ElementScrollButton,
+                                           NVO::ElementSelectionMessageBox,
+                                           NVO::ElementSeparator,
+                                           NVO::ElementRibbon,
+                                           NVO::ElementRibbonButton,
+                                           NVO::ElementRibbonCheckBox,
+                                           NVO::ElementRibbonGroup,
+                                           NVO::ElementRibbonGroupButton,
+                                           NVO::ElementRibbonGroupObject,
+                                           NVO::ElementRibbonLabel}) {
             const QString sheet = NVO::Css::instance().css(element);
             QCss::StyleSheet parsed;
             QVERIFY(!sheet.isEmpty() && QCss::Parser(sheet).parse(&parsed, Qt::CaseSensitive));

@@ -1,0 +1,160 @@
+#include "pages/ComboBoxesPage.h"
+
+#include "pages/ForcedState.h"
+#include "pages/PageSupport.h"
+
+#include <nvo/CheckBox.h>
+#include <nvo/ComboBox.h>
+#include <nvo/Label.h>
+
+#include <QAbstractItemView>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMetaEnum>
+#include <QStringListModel>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace {
+
+constexpr int listWidth = 300;
+constexpr int journalRows = 100000;
+constexpr std::array<ForcedState::State, 4> states{ForcedState::Normal, ForcedState::Hover,
+                                                   ForcedState::Focus, ForcedState::Disabled};
+
+using Style = NVO::ComboBox::ComboBoxStyle;
+
+QString keyOf(Style style)
+{
+    return QString::fromLatin1(QMetaEnum::fromType<Style>().valueToKey(style));
+}
+
+NVO::ComboBox *makeBox(Style style = NVO::ComboBox::Normal)
+{
+    auto *box = new NVO::ComboBox;
+    box->setComboBoxStyle(style);
+    box->addItems({QStringLiteral("19 % Umsatzsteuer"), QStringLiteral("7 % Umsatzsteuer"),
+                   QStringLiteral("0 % Photovoltaik"), QStringLiteral("Steuerfrei nach § 4 UStG"),
+                   QStringLiteral("Innergemeinschaftliche Lieferung")});
+    return box;
+}
+
+NVO::ComboBox *makeBigBox()
+{
+    auto *box = new NVO::ComboBox;
+    box->setComboBoxSize(NVO::ComboBox::SizeBig);
+    box->addItem(themeImage(QStringLiteral("information")), QStringLiteral("Zur Prüfung"));
+    box->addItem(themeImage(QStringLiteral("question")), QStringLiteral("Rückfrage"));
+    box->addItem(themeImage(QStringLiteral("warning")), QStringLiteral("Unvollständig"));
+    return box;
+}
+
+NVO::ComboBox *makeReadOnly(NVO::ComboBox *box)
+{
+    box->setReadOnly(true);
+    return box;
+}
+
+/** What the list of \a box looks like when it is open. */
+QWidget *makeListPicture(NVO::ComboBox *box, int rowHeight)
+{
+    QAbstractItemView *list = box->view();
+    list->setFixedSize(listWidth, box->count() * rowHeight + 2);
+    list->setCurrentIndex(box->model()->index(1, 0));
+    auto *picture = new QLabel;
+    picture->setPixmap(list->grab());
+    picture->setFixedSize(list->size());
+    delete box;
+    return picture;
+}
+
+} // namespace
+
+ComboBoxesPage::ComboBoxesPage()
+{
+    addMatrix();
+    addSizes();
+    addOpenLists();
+    addTrial();
+}
+
+void ComboBoxesPage::addMatrix()
+{
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(16);
+    grid->setVerticalSpacing(12);
+    for (int column = 0; column < int(states.size()); ++column) {
+        grid->addWidget(makeCaption(ForcedState::title(states.at(std::size_t(column)))), 0, column + 1);
+        grid->setColumnStretch(column + 1, 1);
+    }
+    grid->addWidget(makeCaption(QStringLiteral("Nur lesbar")), 0, int(states.size()) + 1);
+    grid->setColumnStretch(int(states.size()) + 1, 1);
+    for (const Style style : {NVO::ComboBox::Normal, NVO::ComboBox::Error, NVO::ComboBox::Info,
+                              NVO::ComboBox::VaSt, NVO::ComboBox::NoBorder}) {
+        const int row = grid->rowCount();
+        grid->addWidget(makeLabel(keyOf(style), NVO::Font::DEFAULT, LabelRole::Name), row, 0);
+        for (int column = 0; column < int(states.size()); ++column) {
+            NVO::ComboBox *box = makeBox(style);
+            ForcedState::apply(box, states.at(std::size_t(column)));
+            grid->addWidget(box, row, column + 1);
+        }
+        grid->addWidget(makeReadOnly(makeBox(style)), row, int(states.size()) + 1);
+    }
+    addSection(QStringLiteral("Fünf Stile"),
+               QStringLiteral("Die Felder der Spalte „Normal“ lassen sich bedienen; die anderen Spalten "
+                              "zeigen einen festgehaltenen Zustand."))
+        ->addLayout(grid);
+}
+
+void ComboBoxesPage::addSizes()
+{
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(16);
+    grid->setVerticalSpacing(12);
+    for (int column = 0; column < int(states.size()); ++column) {
+        const ForcedState::State state = states.at(std::size_t(column));
+        NVO::ComboBox *box = makeBigBox();
+        ForcedState::apply(box, state);
+        grid->addWidget(makeCaption(ForcedState::title(state)), 0, column);
+        grid->addWidget(box, 1, column);
+    }
+    grid->addWidget(makeCaption(QStringLiteral("Nur lesbar")), 0, int(states.size()));
+    grid->addWidget(makeReadOnly(makeBigBox()), 1, int(states.size()));
+    addSection(QStringLiteral("Große Auswahl"),
+               QStringLiteral("Mit Symbolen von 24 Pixeln, im Feld und in der Liste."))
+        ->addLayout(grid);
+}
+
+void ComboBoxesPage::addOpenLists()
+{
+    auto *row = new QHBoxLayout;
+    row->setSpacing(24);
+    row->addWidget(makeListPicture(makeBox(), 25), 0, Qt::AlignTop);
+    row->addWidget(makeListPicture(makeBigBox(), 60), 0, Qt::AlignTop);
+    row->addStretch();
+    addSection(QStringLiteral("Aufgeklappte Listen"),
+               QStringLiteral("Abbildungen beider Größen; die Zeile unter der Maus ist hervorgehoben."))
+        ->addLayout(row);
+}
+
+void ComboBoxesPage::addTrial()
+{
+    QStringList journal;
+    journal.reserve(journalRows);
+    for (int i = 1; i <= journalRows; ++i)
+        journal.append(QStringLiteral("Buchung %1").arg(i));
+    auto *box = new NVO::ComboBox;
+    box->setModel(new QStringListModel(journal, box));
+    box->setMinimumWidth(listWidth);
+    auto *locked = new NVO::CheckBox(QStringLiteral("Nur lesbar"));
+    connect(locked, &NVO::CheckBox::toggled, box, &NVO::ComboBox::setReadOnly);
+    auto *row = new QHBoxLayout;
+    row->setSpacing(16);
+    row->addWidget(box);
+    row->addWidget(locked);
+    row->addStretch();
+    addSection(QStringLiteral("Zum Ausprobieren"),
+               QStringLiteral("Eine Liste mit 100.000 Zeilen; Buchstaben und Ziffern springen zur Zeile."))
+        ->addLayout(row);
+}
