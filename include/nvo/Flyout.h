@@ -106,7 +106,7 @@ public:
 
     ~Flyout() override;
 
-    /** What the box shows; null at first, and again after it was destroyed. */
+    /** What the box shows; null at first, and again after it was destroyed or given another parent. */
     virtual QWidget *content() const;
 
     /**
@@ -170,6 +170,7 @@ private:
     void chainChanged(QObject *object);
     QRect currentTarget() const;
     void reposition(bool fromEffective);
+    void standOnTargetWindow();
     void placeCloseButton();
 
     FlyoutInnerWidget *m_innerWidget = nullptr;
@@ -181,7 +182,7 @@ private:
     QPointer<QWidget> m_target;
     FlyoutFlags m_flags;
     FlyoutStyle m_style = Normal;
-    Button *m_closeButton = nullptr;
+    QPointer<Button> m_closeButton;
     QVector<QPointer<QObject>> m_filteredObjects; // the target and its ancestors
 
     bool m_placing = false;

@@ -13,6 +13,7 @@
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QWindow>
 
 #include <utility>
 
@@ -23,9 +24,12 @@ namespace {
 constexpr int shadowRoom = 10; // what the box leaves free to the right and below
 constexpr int closeButtonInset = 23;
 
-QRect availableGeometry(const QPoint &point)
+/** Of the screen at \a point or, if it lies on none, of that of \a target; empty if there is no screen. */
+QRect availableGeometry(const QPoint &point, const QWidget *target)
 {
     const QScreen *screen = QGuiApplication::screenAt(point);
+    if (!screen && target)
+        screen = target->screen();
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     return screen ? screen->availableGeometry() : QRect();
@@ -123,14 +127,14 @@ void Flyout::initStyleSheet()
 
 QWidget *Flyout::content() const
 {
-    return m_contentWidget;
+    return m_innerWidget->isAncestorOf(m_contentWidget) ? m_contentWidget.data() : nullptr;
 }
 
 void Flyout::setContent(QWidget *content)
 {
-    if (m_contentWidget == content || (content && contains(content, m_innerWidget)))
+    QWidget *old = Flyout::content();
+    if (content && (content == old || contains(content, m_innerWidget)))
         return;
-    QWidget *old = m_contentWidget;
     m_contentWidget = content;
     if (content)
         m_innerWidget->layout()->addWidget(content);
@@ -249,9 +253,25 @@ void Flyout::setVisible(bool visible)
     }
     const QPointer<Flyout> alive(this);
     reposition(false);
+    standOnTargetWindow();
     QWidget::setVisible(true);
     if (alive)
         reposition(false); // what is shown has its final size
+}
+
+/**
+ * Makes a flyout without a parent belong to the window of its target. Where clients cannot place a window
+ * freely, a popup needs such a window, and without it a modal dialog would block a flyout on its own fields.
+ */
+void Flyout::standOnTargetWindow()
+{
+    if (parentWidget() || !m_target || contains(this, m_target))
+        return;
+    create();
+    QWindow *targetWindow = m_target->window()->windowHandle();
+    // Two flyouts on each other's contents must not make a circle.
+    if (targetWindow && !windowHandle()->isAncestorOf(targetWindow))
+        windowHandle()->setTransientParent(targetWindow);
 }
 
 bool Flyout::event(QEvent *event)
@@ -285,7 +305,7 @@ bool Flyout::event(QEvent *event)
 QRect Flyout::currentTarget() const
 {
     QRect rect = m_targetRect;
-    if (rect.isNull() && m_target) {
+    if (rect.isNull() && m_target && !contains(this, m_target)) { // it would run after itself
         rect = m_target->rect();
         rect.moveCenter(m_target->mapToGlobal(rect.center()));
     }
@@ -295,27 +315,28 @@ QRect Flyout::currentTarget() const
 void Flyout::reposition(bool fromEffective)
 {
     const QRect target = currentTarget();
-    if (target.isNull() || m_placing)
+    const QRect available = availableGeometry(target.center(), m_target);
+    if (target.isNull() || available.isEmpty() || m_placing)
         return;
-    // If the target lies in this window, a placement is heard of as a move of the target.
+    // Two flyouts on each other's contents hear of each other's placements.
     const QScopedValueRollback<bool> placing(m_placing, true);
 
-    const QRect available = availableGeometry(target.center());
     const FlyoutPlacement::Placement found = FlyoutPlacement::best(
         fromEffective ? m_effectivePosition : m_requestedPosition, target, boxOf(*m_innerWidget), available);
     const QRect window =
         FlyoutPlacement::windowAround(found.rect, m_innerWidget->contentsMargins(), available);
 
-    const bool changed = found.position != m_effectivePosition || found.offset != m_offset
-                         || window.topLeft() != pos() || window.size() != size();
+    const QSize oldSize = size();
+    const bool pointerMoved = found.position != m_effectivePosition || found.offset != m_offset;
     m_effectivePosition = found.position;
     m_offset = found.offset;
-    if (!changed)
-        return;
-    m_repaintPending = isVisible();
+
     move(window.topLeft());
     resize(window.size());
-    m_innerWidget->update();
+    if (pointerMoved || size() != oldSize) { // else the picture, which has a costly shadow, is the same
+        m_repaintPending = isVisible();
+        m_innerWidget->update();
+    }
 }
 
 void Flyout::resizeEvent(QResizeEvent *event)
