@@ -123,6 +123,7 @@ private Q_SLOTS:
                                            NVO::ElementComboBox,
                                            NVO::ElementDialog,
                                            NVO::ElementDialogButton,
+                                           NVO::ElementFlyout,
                                            NVO::ElementGroupBox,
                                            NVO::ElementIconButton,
                                            NVO::ElementInfoBox,
