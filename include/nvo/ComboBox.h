@@ -18,7 +18,8 @@ class GraphicsEffect;
  * screen.
  *
  * The box owns a shadow that shows unless the style is NoBorder or it is switched off. The list never shows
- * the scroll arrows of Qt, only its scroll bars.
+ * the scroll arrows of Qt, only its scroll bars. A view given with setView() comes with its own delegate and
+ * its own bars.
  */
 class NVO_EXPORT ComboBox : public QComboBox
 {
@@ -74,6 +75,7 @@ public Q_SLOTS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     friend class ComboBoxDelegate;

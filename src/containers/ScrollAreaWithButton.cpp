@@ -23,9 +23,9 @@ QRect globalRect(const QWidget *widget)
     return {widget->mapToGlobal(QPoint(0, 0)), widget->size()};
 }
 
-bool covers(const QWidget *button, const QWidget *widget)
+bool covers(const QWidget *button, const QRect &rect)
 {
-    return button && button->isVisible() && globalRect(button).intersects(globalRect(widget));
+    return button && button->isVisible() && globalRect(button).intersects(rect);
 }
 
 void showOrHide(QAbstractButton *button, bool show)
@@ -79,6 +79,7 @@ void ScrollAreaWithButton::reposition(ScrollButton *button)
                            .adjusted(m_leftMargin, 0, -m_rightMargin, 0);
     button->move(rect.topLeft());
     button->setFixedWidth(qMax(0, rect.width()));
+    button->raise(); // a viewport may have come later
 }
 
 /** Callers may give the area another bar at any time, which nobody reports. */
@@ -178,12 +179,13 @@ bool ScrollAreaWithButton::focusNextPrevChild(bool next)
     const QPointer<ScrollAreaWithButton> alive(this);
     if (!QScrollArea::focusNextPrevChild(next))
         return false;
-    if (!alive)
+    if (!alive || !focusWidget())
         return true;
-    const QPointer<QWidget> focus = focusWidget();
-    if (focus && covers(m_topButton, focus))
+    // Where it was before any step: one step up may bring it under the lower button, but not back.
+    const QRect focus = globalRect(focusWidget());
+    if (covers(m_topButton, focus))
         scrollUp();
-    if (alive && focus && covers(m_bottomButton, focus))
+    if (alive && covers(m_bottomButton, focus))
         scrollDown();
     return true;
 }

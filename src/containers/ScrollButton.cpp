@@ -26,7 +26,7 @@ public:
 
     QString text(QAccessible::Text type) const override
     {
-        const QString own = AccessibleButton::text(type);
+        QString own = AccessibleButton::text(type);
         if (type != QAccessible::Name || !own.isEmpty())
             return own;
         return static_cast<ScrollButton *>(button())->direction() == Up
@@ -56,7 +56,7 @@ QString styleKey(ScrollButtonStyle style)
 
 QString arrowName(Direction direction, ScrollButtonStyle style)
 {
-    const QString name =
+    QString name =
         direction == Up ? QStringLiteral(":/scrollarrow_up") : QStringLiteral(":/scrollarrow_down");
     switch (style) {
     case ScrollButtonStyle::Light:

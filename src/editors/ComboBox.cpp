@@ -13,6 +13,8 @@
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 
+#include <array>
+
 namespace NVO {
 
 namespace {
@@ -27,16 +29,16 @@ constexpr QSize bigIconSize(24, 24);
 constexpr auto adjustToMinimumContentsLength = QComboBox::SizeAdjustPolicy(2);
 
 // From the edges of a row of the list, the second of each pair in variant 1.
-constexpr int iconMargins[] = {20, 10};
-constexpr int bigLeftTextMargins[] = {64, 54};
-constexpr int bigRightTextMargins[] = {20, 10};
+constexpr std::array<int, 2> iconMargins{20, 10};
+constexpr std::array<int, 2> bigLeftTextMargins{64, 54};
+constexpr std::array<int, 2> bigRightTextMargins{20, 10};
 constexpr int normalTextMargin = 10;
 
 constexpr QColor popupGround(246, 246, 246);
 
-int ofVariant(const int (&margins)[2])
+int ofVariant(const std::array<int, 2> &margins)
 {
-    return margins[Product::instance().variant == 1 ? 1 : 0];
+    return Product::instance().variant == 1 ? margins.back() : margins.front();
 }
 
 ScrollBar *makeScrollBar(Qt::Orientation orientation)
@@ -109,6 +111,10 @@ void ComboBox::adjustDropDown() {}
 
 void ComboBox::showPopup()
 {
+    // The view that Qt makes in place of one that was deleted has no model, which showing it does not
+    // survive.
+    if (view()->model() != model())
+        view()->setModel(model());
     // Qt shows its arrows again when the list is longer than its window, so they are watched from now on.
     const QLayout *popup = view()->parentWidget()->layout();
     for (int i = 0; popup && i < popup->count(); ++i) {
@@ -132,6 +138,7 @@ void ComboBox::paintEvent(QPaintEvent *)
 {
     QStylePainter painter(this);
     painter.setPen(palette().color(QPalette::Text));
+    painter.setLayoutDirection(layoutDirection()); // or a sheet writes mirrored texts from the left
     QStyleOptionComboBox option;
     initStyleOption(&option);
     option.activeSubControls = QStyle::SC_None; // the box is one area to the mouse
@@ -141,6 +148,11 @@ void ComboBox::paintEvent(QPaintEvent *)
         option.currentText = placeholderText();
     }
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+void ComboBox::changeEvent(QEvent *event)
+{
+    QComboBox::changeEvent(event);
 }
 
 void ComboBox::initStyleSheet()

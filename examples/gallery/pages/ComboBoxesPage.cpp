@@ -19,6 +19,7 @@
 namespace {
 
 constexpr int listWidth = 300;
+constexpr int listBorder = 1;
 constexpr int journalRows = 100000;
 constexpr std::array<ForcedState::State, 4> states{ForcedState::Normal, ForcedState::Hover,
                                                    ForcedState::Focus, ForcedState::Disabled};
@@ -56,17 +57,34 @@ NVO::ComboBox *makeReadOnly(NVO::ComboBox *box)
     return box;
 }
 
-/** What the list of \a box looks like when it is open. */
-QWidget *makeListPicture(NVO::ComboBox *box, int rowHeight)
+NVO::ComboBox *makeJournalBox(int count)
+{
+    QStringList journal;
+    journal.reserve(count);
+    for (int i = 1; i <= count; ++i)
+        journal.append(QStringLiteral("Buchung %1").arg(i));
+    auto *box = new NVO::ComboBox;
+    box->setModel(new QStringListModel(journal, box));
+    return box;
+}
+
+/** \a box as it looks with its list open, where \a rows of it are to be seen. */
+QVBoxLayout *makeOpenPicture(NVO::ComboBox *box, int rowHeight, int rows)
 {
     QAbstractItemView *list = box->view();
-    list->setFixedSize(listWidth, box->count() * rowHeight + 2);
+    list->setFixedSize(listWidth, rows * rowHeight + 2 * listBorder);
     list->setCurrentIndex(box->model()->index(1, 0));
     auto *picture = new QLabel;
     picture->setPixmap(list->grab());
     picture->setFixedSize(list->size());
-    delete box;
-    return picture;
+    box->setFixedWidth(listWidth);
+    ForcedState::apply(box, ForcedState::Focus); // the look of an open one
+    auto *column = new QVBoxLayout;
+    column->setSpacing(0);
+    column->addWidget(box);
+    column->addWidget(picture);
+    column->addStretch();
+    return column;
 }
 
 } // namespace
@@ -130,31 +148,35 @@ void ComboBoxesPage::addOpenLists()
 {
     auto *row = new QHBoxLayout;
     row->setSpacing(24);
-    row->addWidget(makeListPicture(makeBox(), 25), 0, Qt::AlignTop);
-    row->addWidget(makeListPicture(makeBigBox(), 60), 0, Qt::AlignTop);
+    row->addLayout(makeOpenPicture(makeBox(), 25, 5));
+    row->addLayout(makeOpenPicture(makeJournalBox(20), 25, 7));
+    row->addLayout(makeOpenPicture(makeBigBox(), 60, 3));
     row->addStretch();
     addSection(QStringLiteral("Aufgeklappte Listen"),
-               QStringLiteral("Abbildungen beider Größen; die Zeile unter der Maus ist hervorgehoben."))
+               QStringLiteral(
+                   "Abbildungen: kurz, mit Bildlaufleiste und in der großen Ausführung; die Zeile unter der "
+                   "Maus ist hervorgehoben."))
         ->addLayout(row);
 }
 
 void ComboBoxesPage::addTrial()
 {
-    QStringList journal;
-    journal.reserve(journalRows);
-    for (int i = 1; i <= journalRows; ++i)
-        journal.append(QStringLiteral("Buchung %1").arg(i));
-    auto *box = new NVO::ComboBox;
-    box->setModel(new QStringListModel(journal, box));
+    NVO::ComboBox *box = makeJournalBox(journalRows);
     box->setMinimumWidth(listWidth);
+    NVO::ComboBox *editable = makeBox();
+    editable->setEditable(true);
+    editable->setMinimumWidth(listWidth);
     auto *locked = new NVO::CheckBox(QStringLiteral("Nur lesbar"));
-    connect(locked, &NVO::CheckBox::toggled, box, &NVO::ComboBox::setReadOnly);
+    for (NVO::ComboBox *each : {box, editable})
+        connect(locked, &NVO::CheckBox::toggled, each, &NVO::ComboBox::setReadOnly);
     auto *row = new QHBoxLayout;
     row->setSpacing(16);
     row->addWidget(box);
+    row->addWidget(editable);
     row->addWidget(locked);
     row->addStretch();
     addSection(QStringLiteral("Zum Ausprobieren"),
-               QStringLiteral("Eine Liste mit 100.000 Zeilen; Buchstaben und Ziffern springen zur Zeile."))
+               QStringLiteral("Eine Liste mit 100.000 Zeilen, in der Buchstaben und Ziffern zur Zeile "
+                              "springen, und eine, in die sich schreiben lässt."))
         ->addLayout(row);
 }

@@ -59,6 +59,7 @@ void fillForm(NVO::GroupBox *group)
         makeRow(QStringLiteral("Versteuerung"),
                 makeChoice({QStringLiteral("Soll-Versteuerung"), QStringLiteral("Ist-Versteuerung")})));
     rows->addWidget(new NVO::CheckBox(QStringLiteral("Dauerfristverlängerung")));
+    rows->addStretch();
 }
 
 NVO::Label *makeLegend(const QString &text, NVO::GroupBox *group)
@@ -66,7 +67,7 @@ NVO::Label *makeLegend(const QString &text, NVO::GroupBox *group)
     NVO::Label *legend = makeCaption(text);
     legend->setParent(group);
     legend->setAlignment(Qt::AlignRight | Qt::AlignTop);
-    legend->setContentsMargins(0, group->groupBoxStyle() == NVO::GroupBox::Overview ? 13 : 4, 0, 0);
+    legend->setContentsMargins(0, group->groupBoxStyle() == NVO::GroupBox::Overview ? 13 : 3, 0, 0);
     legend->adjustSize();
     return legend;
 }

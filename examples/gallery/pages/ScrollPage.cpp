@@ -9,82 +9,122 @@
 #include <nvo/ScrollBar.h>
 #include <nvo/ScrollButton.h>
 
+#include <QApplication>
 #include <QFrame>
 #include <QGridLayout>
 #include <QMetaEnum>
+#include <QMouseEvent>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QVector>
 
 #include <array>
+#include <functional>
 
 namespace {
 
 using BarStyle = NVO::ScrollBar::ScrollBarStyle;
 
-constexpr int barLength = 170;
-constexpr int buttonWidth = 110;
+constexpr int barLength = 120;
+constexpr int barHeight = 56;
+constexpr int buttonWidth = 120;
 constexpr int cellPadding = 8;
 constexpr QSize areaSize(210, 170);
 constexpr std::array<ForcedState::State, 4> states{ForcedState::Normal, ForcedState::Hover,
                                                    ForcedState::Pressed, ForcedState::Disabled};
 
-/** A style of the arrow buttons as the page shows it. */
+/** A style as the page shows it: one line with a cell for each state. */
 struct Look
 {
-    NVO::ScrollButtonStyle style;
-    const char *name;
-    const char *use;
+    QString name;
+    QString use;
     bool onDark;
+    std::function<QWidget *(ForcedState::State)> makeCell;
 };
 
-constexpr std::array<Look, 3> looks{{
-    {NVO::ScrollButtonStyle::Dark, "Dark", "Auf hellem Grund", false},
-    {NVO::ScrollButtonStyle::Error, "Error", "Über fehlerhaften Angaben", false},
-    {NVO::ScrollButtonStyle::Light, "Light", "Auf dunklem Grund", true},
-}};
+QGridLayout *makeMatrix(const QVector<Look> &looks)
+{
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(16);
+    grid->setVerticalSpacing(0);
+    for (int column = 0; column < int(states.size()); ++column)
+        grid->addWidget(makeCaption(ForcedState::title(states.at(std::size_t(column)))), 0, column + 1,
+                        Qt::AlignHCenter);
+    for (const Look &look : looks) {
+        const int row = grid->rowCount();
+        if (look.onDark)
+            grid->addWidget(makeGround(Ground::Dark), row, 0, 1, int(states.size()) + 1);
+        auto *caption = new QVBoxLayout;
+        caption->setContentsMargins(cellPadding, cellPadding, cellPadding, cellPadding);
+        caption->setSpacing(1);
+        caption->addWidget(
+            makeLabel(look.name, NVO::Font::DEFAULT, look.onDark ? LabelRole::OnDark : LabelRole::Name));
+        caption->addWidget(makeLabel(look.use, NVO::Font::SMALL,
+                                     look.onDark ? LabelRole::CaptionOnDark : LabelRole::Caption));
+        caption->addStretch();
+        grid->addLayout(caption, row, 0);
+        for (int column = 0; column < int(states.size()); ++column) {
+            auto *cell = new QVBoxLayout;
+            cell->setContentsMargins(0, cellPadding, 0, cellPadding);
+            cell->addWidget(look.makeCell(states.at(std::size_t(column))), 0, Qt::AlignHCenter);
+            grid->addLayout(cell, row, column + 1);
+        }
+    }
+    return grid;
+}
 
-NVO::ScrollBar *makeBar(BarStyle style, Qt::Orientation orientation, bool enabled)
+/** Holds the handle of \a bar. */
+void press(NVO::ScrollBar *bar)
+{
+    bar->resize(bar->sizeHint().expandedTo(bar->minimumSize()));
+    const QPointF centre = QRectF(bar->rect()).center();
+    QMouseEvent event(QEvent::MouseButtonPress, centre, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(bar, &event);
+}
+
+NVO::ScrollBar *makeBar(BarStyle style, Qt::Orientation orientation, ForcedState::State state)
 {
     auto *bar = new NVO::ScrollBar(orientation, nullptr);
     bar->setScrollBarStyle(style);
     bar->setRange(0, 100);
-    bar->setPageStep(50);
-    bar->setValue(30);
-    bar->setEnabled(enabled);
+    bar->setPageStep(60);
+    bar->setValue(50);
     if (orientation == Qt::Vertical)
-        bar->setFixedHeight(barLength);
+        bar->setFixedHeight(barHeight);
     else
         bar->setFixedWidth(barLength);
+    ForcedState::apply(bar, state);
+    if (state == ForcedState::Pressed)
+        press(bar);
     return bar;
 }
 
-/** Both directions, alive and disabled. */
-QFrame *makeBars(BarStyle style)
+QWidget *makeBars(BarStyle style, ForcedState::State state)
 {
-    const bool onDark = style == NVO::ScrollBar::Navigation;
-    QFrame *ground = makeGround(onDark ? Ground::Dark : Ground::Outline);
-    auto *grid = new QGridLayout(ground);
-    grid->setContentsMargins(12, 12, 12, 12);
-    grid->setSpacing(12);
-    grid->addWidget(makeLabel(QString::fromLatin1(QMetaEnum::fromType<BarStyle>().valueToKey(style)),
-                              NVO::Font::DEFAULT, onDark ? LabelRole::OnDark : LabelRole::Name),
-                    0, 2);
-    for (const bool enabled : {true, false}) {
-        const int place = enabled ? 0 : 1;
-        grid->addWidget(makeBar(style, Qt::Vertical, enabled), 0, place, 4, 1, Qt::AlignTop);
-        grid->addWidget(makeBar(style, Qt::Horizontal, enabled), place + 1, 2);
-    }
-    grid->setRowStretch(3, 1);
-    return ground;
+    auto *pair = new QWidget;
+    auto *row = new QHBoxLayout(pair);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(12);
+    row->addWidget(makeBar(style, Qt::Vertical, state));
+    row->addWidget(makeBar(style, Qt::Horizontal, state), 0, Qt::AlignVCenter);
+    return pair;
 }
 
-NVO::ScrollButton *makeArrow(NVO::ScrollButtonStyle style, NVO::Direction direction)
+/** The upper and the lower arrow as they close off an area: its frame is their edge at the left and below. */
+QWidget *makeArrows(NVO::ScrollButtonStyle style, ForcedState::State state)
 {
-    auto *button = new NVO::ScrollButton;
-    button->setStyle(style);
-    button->setDirection(direction);
-    button->setFixedWidth(buttonWidth);
-    return button;
+    const bool onDark = style == NVO::ScrollButtonStyle::Light;
+    QFrame *area = makeGround(onDark ? Ground::Dark : Ground::Outline);
+    area->setFixedSize(buttonWidth, 72);
+    for (const NVO::Direction direction : {NVO::Up, NVO::Down}) {
+        auto *button = new NVO::ScrollButton(area);
+        button->setStyle(style);
+        button->setDirection(direction);
+        button->setFixedWidth(buttonWidth - 1);
+        button->move(1, direction == NVO::Up ? 0 : area->height() - 1 - button->height());
+        ForcedState::apply(button, state);
+    }
+    return area;
 }
 
 /** Bookings, one below the other. */
@@ -103,7 +143,7 @@ QWidget *makeRows(LabelRole role)
 /** Lets the ground of the page show through an area that is there to be put on any. */
 void makeClear(QScrollArea *area)
 {
-    area->setFixedSize(areaSize);
+    area->resize(areaSize);
     area->viewport()->setAutoFillBackground(false);
     area->widget()->setAutoFillBackground(false);
 }
@@ -126,12 +166,13 @@ NVO::ScrollAreaWithButton *makeArrowArea(NVO::ScrollButtonStyle style, LabelRole
     return area;
 }
 
-QVBoxLayout *framed(QWidget *widget, Ground ground, const QString &caption)
+/** A frame around \a area, whose upper edge is that of an arrow that lies \a top pixels below it. */
+QVBoxLayout *framed(QScrollArea *area, Ground ground, int top, const QString &caption)
 {
     QFrame *frame = makeGround(ground);
-    auto *inner = new QVBoxLayout(frame);
-    inner->setContentsMargins(1, 1, 1, 1);
-    inner->addWidget(widget);
+    frame->setFixedSize(areaSize + QSize(2, 1 + top));
+    area->setParent(frame);
+    area->move(1, top);
     return withCaption(frame, caption);
 }
 
@@ -146,53 +187,32 @@ ScrollPage::ScrollPage()
 
 void ScrollPage::addBars()
 {
-    auto *row = new QHBoxLayout;
-    row->setSpacing(16);
-    for (const BarStyle style :
-         {NVO::ScrollBar::Dialog, NVO::ScrollBar::DropDown, NVO::ScrollBar::Navigation})
-        row->addWidget(makeBars(style));
-    row->addStretch();
+    const auto look = [](BarStyle style, const QString &use) {
+        return Look{QString::fromLatin1(QMetaEnum::fromType<BarStyle>().valueToKey(style)), use,
+                    style == NVO::ScrollBar::Navigation,
+                    [style](ForcedState::State state) { return makeBars(style, state); }};
+    };
     addSection(QStringLiteral("Bildlaufleisten"),
-               QStringLiteral("Für Dialoge, für aufgeklappte Listen und für die Navigation auf dunklem "
-                              "Grund; je eine zum Bedienen und eine deaktivierte."))
-        ->addLayout(row);
+               QStringLiteral("Die der Spalte „Normal“ lassen sich bedienen."))
+        ->addLayout(makeMatrix({look(NVO::ScrollBar::Dialog, QStringLiteral("In Dialogen und auf Seiten")),
+                                look(NVO::ScrollBar::DropDown, QStringLiteral("In aufgeklappten Listen")),
+                                look(NVO::ScrollBar::Navigation, QStringLiteral("Auf dunklem Grund"))}));
 }
 
 void ScrollPage::addButtons()
 {
-    auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(16);
-    grid->setVerticalSpacing(0);
-    for (int column = 0; column < int(states.size()); ++column)
-        grid->addWidget(makeCaption(ForcedState::title(states.at(std::size_t(column)))), 0, column + 1,
-                        Qt::AlignHCenter);
-    for (const Look &look : looks) {
-        const int row = grid->rowCount();
-        if (look.onDark)
-            grid->addWidget(makeGround(Ground::Dark), row, 0, 1, int(states.size()) + 1);
-        auto *caption = new QVBoxLayout;
-        caption->setContentsMargins(cellPadding, cellPadding, cellPadding, cellPadding);
-        caption->setSpacing(1);
-        caption->addWidget(makeLabel(QString::fromLatin1(look.name), NVO::Font::DEFAULT,
-                                     look.onDark ? LabelRole::OnDark : LabelRole::Name));
-        caption->addWidget(makeLabel(QString::fromUtf8(look.use), NVO::Font::SMALL,
-                                     look.onDark ? LabelRole::CaptionOnDark : LabelRole::Caption));
-        grid->addLayout(caption, row, 0);
-        for (int column = 0; column < int(states.size()); ++column) {
-            auto *pair = new QVBoxLayout;
-            pair->setContentsMargins(0, cellPadding, cellPadding, cellPadding);
-            pair->setSpacing(4);
-            for (const NVO::Direction direction : {NVO::Up, NVO::Down}) {
-                NVO::ScrollButton *button = makeArrow(look.style, direction);
-                ForcedState::apply(button, states.at(std::size_t(column)));
-                pair->addWidget(button, 0, Qt::AlignHCenter);
-            }
-            grid->addLayout(pair, row, column + 1);
-        }
-    }
+    const auto look = [](NVO::ScrollButtonStyle style, const QString &name, const QString &use) {
+        return Look{name, use, style == NVO::ScrollButtonStyle::Light,
+                    [style](ForcedState::State state) { return makeArrows(style, state); }};
+    };
     addSection(QStringLiteral("Pfeile"),
                QStringLiteral("Sie schweben über dem Inhalt; gehalten rollen sie weiter."))
-        ->addLayout(grid);
+        ->addLayout(makeMatrix(
+            {look(NVO::ScrollButtonStyle::Dark, QStringLiteral("Dark"), QStringLiteral("Auf hellem Grund")),
+             look(NVO::ScrollButtonStyle::Error, QStringLiteral("Error"),
+                  QStringLiteral("Über fehlerhaften Angaben")),
+             look(NVO::ScrollButtonStyle::Light, QStringLiteral("Light"),
+                  QStringLiteral("Auf dunklem Grund"))}));
 }
 
 void ScrollPage::addAreas()
@@ -203,10 +223,13 @@ void ScrollPage::addAreas()
 
     auto *row = new QHBoxLayout;
     row->setSpacing(16);
-    row->addLayout(framed(plain, Ground::Outline, QStringLiteral("mit Bildlaufleiste")));
-    row->addLayout(framed(makeArrowArea(NVO::ScrollButtonStyle::Dark, LabelRole::Text), Ground::Outline,
+    using ArrowStyle = NVO::ScrollButtonStyle;
+    row->addLayout(framed(plain, Ground::Outline, 1, QStringLiteral("mit Bildlaufleiste")));
+    row->addLayout(framed(makeArrowArea(ArrowStyle::Dark, LabelRole::Text), Ground::Outline, 0,
                           QStringLiteral("mit Pfeilen")));
-    row->addLayout(framed(makeArrowArea(NVO::ScrollButtonStyle::Light, LabelRole::OnDark), Ground::Dark,
+    row->addLayout(framed(makeArrowArea(ArrowStyle::Error, LabelRole::Error), Ground::Outline, 0,
+                          QStringLiteral("mit Pfeilen über fehlerhaften Angaben")));
+    row->addLayout(framed(makeArrowArea(ArrowStyle::Light, LabelRole::CaptionOnDark), Ground::Dark, 1,
                           QStringLiteral("mit Pfeilen auf dunklem Grund")));
     row->addStretch();
     addSection(QStringLiteral("Rollbereiche"),
