@@ -41,6 +41,21 @@ struct Model
     bool pressed = false;
     QColor text[3];
     QColor underline[3];
+    Qt::CursorShape hoverCursor = Qt::PointingHandCursor;
+    Qt::CursorShape pressedCursor = Qt::PointingHandCursor;
+    Qt::CursorShape cursor = Qt::PointingHandCursor;
+    Qt::CursorShape cursorBefore = Qt::PointingHandCursor;
+
+    void showCursor(Qt::CursorShape shape)
+    {
+        if (shape != Qt::ArrowCursor)
+            cursorBefore = std::exchange(cursor, shape);
+    }
+    void release()
+    {
+        if (std::exchange(pressed, false) && pressedCursor != Qt::ArrowCursor)
+            cursor = cursorBefore;
+    }
 };
 
 QColor stateColor(const Model &model, const AbstractButton &button, const QColor *colors, QColor color)
@@ -60,6 +75,16 @@ int cell(const Model &model, const AbstractButton &button)
     return !button.isEnabled() ? 3 : model.pressed ? 0 : model.hovered ? 1 : 2;
 }
 
+QSize expectedSize(const AbstractButton &button)
+{
+    const bool arrow = button.menu() && button.menuIndicatorIcon() == ":/arrow";
+    const bool icon = !button.icon().isNull();
+    const QFontMetrics metrics = button.fontMetrics();
+    const int gap = button.menu() && !arrow && !button.menuIndicatorIcon().isEmpty() ? 5 : 0;
+    return QSize(metrics.horizontalAdvance(button.text()) + (icon ? 21 : 0) + (arrow ? 14 : gap),
+                 std::max({metrics.height(), icon ? 16 : 0, arrow ? 5 : 0}));
+}
+
 QPixmap block(const QSize &size, quint32 color, qreal ratio)
 {
     QPixmap pixmap(size * ratio);
@@ -75,6 +100,7 @@ QImage expectedPicture(AbstractButton &button, const Model &model)
     const bool rtl = button.isRightToLeft();
     const bool icon = !button.icon().isNull();
     const int front = icon ? 16 + 5 : 0;
+    const bool arrow = button.menuIndicatorIcon() == ":/arrow";
     const int back = button.menu() && !button.menuIndicatorIcon().isEmpty() ? 9 + 5 : 0;
     QRect text(rtl ? back : front, 0, button.width() - front - back, button.height());
 
@@ -104,7 +130,7 @@ QImage expectedPicture(AbstractButton &button, const Model &model)
     if (icon)
         painter.drawPixmap(QPointF(rtl ? behind : text.x() - 16 - 5, (button.height() - 16) / 2.0),
                            block(QSize(16, 16), shade, ratio));
-    if (back > 0)
+    if (back > 0 && arrow)
         painter.drawPixmap(QPointF(rtl ? text.x() - 9 - 5 : behind, (button.height() - 5) / 2.0),
                            block(QSize(9, 5), shade, ratio));
     return picture.toImage();
@@ -173,6 +199,7 @@ private Q_SLOTS:
         const QIcon icon = NVO::Icon(NVO::Pixmap(":/strip"));
         const Qt::Alignment horizontal[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
         const Qt::Alignment vertical[] = {Qt::AlignTop, Qt::AlignVCenter, Qt::AlignBottom};
+        const Qt::CursorShape shapes[] = {Qt::ArrowCursor, Qt::CrossCursor, Qt::WaitCursor};
         QSet<QByteArray> seen;
         for (int step = 0; step < 1500; ++step) {
             const auto chance = [&random](int of) { return random.bounded(of) == 0; };
@@ -180,10 +207,12 @@ private Q_SLOTS:
             case 0:
                 sendEvent(&button, QEvent::Enter);
                 model.hovered = true;
+                model.showCursor(model.hoverCursor);
                 break;
             case 1:
                 sendEvent(&button, QEvent::Leave);
                 model.hovered = false;
+                model.cursor = model.hoverCursor == Qt::ArrowCursor ? model.cursor : model.cursorBefore;
                 break;
             case 2: // dragged off or back, which Qt tells nobody while a mouse button is held
                 button.setAttribute(Qt::WA_UnderMouse, chance(2));
@@ -191,20 +220,25 @@ private Q_SLOTS:
             case 3:
                 sendMouse(&button, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
                 model.pressed |= button.isEnabled();
+                if (button.isEnabled())
+                    model.showCursor(model.pressedCursor);
                 break;
-            case 4:
-                sendMouse(&button, QEvent::MouseButtonPress, Qt::RightButton, Qt::RightButton);
+            case 4: // perhaps while the left one is held
+                sendMouse(&button, QEvent::MouseButtonPress, Qt::RightButton,
+                          Qt::RightButton | (model.pressed ? Qt::LeftButton : Qt::NoButton));
                 break;
             case 5:
                 sendMouse(&button, QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
-                model.pressed &= !button.isEnabled();
+                if (button.isEnabled())
+                    model.release();
                 break;
             case 6:
                 (chance(3) ? static_cast<QWidget *>(&other) : &button)->setFocus();
                 break;
             case 7:
                 button.setEnabled(!chance(4));
-                model.pressed &= button.isEnabled();
+                if (!button.isEnabled())
+                    model.release();
                 break;
             case 8: {
                 for (QColor &color : model.text)
@@ -217,6 +251,10 @@ private Q_SLOTS:
                 button.setFocusUnderlineColor(model.underline[Focus]);
                 button.setHoverUnderlineColor(model.underline[Hover]);
                 button.setPressedUnderlineColor(model.underline[Press]);
+                model.hoverCursor = shapes[random.bounded(3)];
+                model.pressedCursor = shapes[random.bounded(3)];
+                button.setHoverCursor(model.hoverCursor);
+                button.setPressedCursor(model.pressedCursor);
                 break;
             }
             default:
@@ -224,7 +262,8 @@ private Q_SLOTS:
                 button.setIcon(chance(2) ? icon : QIcon());
                 button.setIconSize(QSize(16, 16));
                 button.setMenu(chance(2) ? &menu : nullptr);
-                button.setMenuIndicatorIcon(chance(3) ? QString() : QString(":/arrow"));
+                button.setMenuIndicatorIcon(
+                    QStringList{"", ":/missing", ":/arrow", ":/arrow"}[random.bounded(4)]);
                 button.setTextAlignment(horizontal[random.bounded(3)] | vertical[random.bounded(3)]);
                 button.setLayoutDirection(chance(3) ? Qt::RightToLeft : Qt::LeftToRight);
                 button.setStyleSheet(QString(plainSheet)
@@ -233,6 +272,9 @@ private Q_SLOTS:
             }
             const QImage picture = button.grab().toImage();
             QVERIFY2(picture == expectedPicture(button, model), QByteArray::number(step));
+            QCOMPARE(button.cursor().shape(), model.cursor);
+            QCOMPARE(button.sizeHint(), expectedSize(button));
+            QCOMPARE(button.minimumSizeHint(), expectedSize(button));
             seen.insert(QByteArray::number(cell(model, button)) + (button.hasFocus() ? "f" : "")
                         + (button.underMouse() ? "o" : "") + (model.hovered ? "h" : "")
                         + (button.font().underline() ? "u" : ""));
@@ -240,161 +282,81 @@ private Q_SLOTS:
         QVERIFY(seen.size() > 20);
     }
 
-    void cursors()
-    {
-        // The widget's cursor against a model, through any sequence of events.
-        QRandomGenerator random(7);
-        const Qt::CursorShape shapes[] = {Qt::ArrowCursor, Qt::PointingHandCursor, Qt::CrossCursor,
-                                          Qt::WaitCursor};
-        for (int round = 0; round < 200; ++round) {
-            AbstractButton button;
-            QCOMPARE(button.cursor().shape(), Qt::PointingHandCursor);
-            QCOMPARE(button.hoverCursor().shape(), Qt::PointingHandCursor);
-            QCOMPARE(button.pressedCursor().shape(), Qt::PointingHandCursor);
-            const Qt::CursorShape hover = shapes[random.bounded(4)];
-            const Qt::CursorShape press = shapes[random.bounded(4)];
-            button.setHoverCursor(hover);
-            button.setPressedCursor(press);
-            button.setCursor(Qt::IBeamCursor);
-            Qt::CursorShape now = Qt::IBeamCursor;
-            Qt::CursorShape saved = Qt::ArrowCursor;
-            bool pressed = false;
-            for (int step = 0; step < 12; ++step) {
-                const int choice = random.bounded(5);
-                if (choice == 0) {
-                    sendEvent(&button, QEvent::Enter);
-                } else if (choice == 1) {
-                    sendEvent(&button, QEvent::Leave);
-                    now = hover == Qt::ArrowCursor ? now : saved;
-                } else if (choice == 2) {
-                    sendMouse(&button, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
-                } else if (choice == 3) { // perhaps while the left one is held
-                    sendMouse(&button, QEvent::MouseButtonPress, Qt::RightButton,
-                              Qt::RightButton | (pressed ? Qt::LeftButton : Qt::NoButton));
-                } else {
-                    sendMouse(&button, QEvent::MouseButtonRelease, Qt::RightButton, Qt::NoButton);
-                    now = pressed && press != Qt::ArrowCursor ? saved : now;
-                    pressed = false;
-                }
-                const Qt::CursorShape wanted = choice == 0 ? hover : choice == 2 ? press : Qt::ArrowCursor;
-                if (wanted != Qt::ArrowCursor) {
-                    saved = now;
-                    now = wanted;
-                }
-                pressed |= choice == 2;
-                QCOMPARE(button.cursor().shape(), now);
-            }
-        }
-    }
-
     void sheet_data()
     {
-        // Focus, its underline, hover, its underline, pressed, its underline, menu indicator
+        // What the sheet sets; all else is kept.
         QTest::addColumn<QString>("sheet");
-        QTest::addColumn<QStringList>("expected");
-        const auto row = [](const char *name, const QString &sheet, const QString &expected) {
-            QTest::newRow(name) << sheet << expected.split(' ');
-        };
-        const QString none = "kept kept kept kept kept kept kept";
-        const QString hover = "kept kept #ff010203 kept kept kept kept";
-        const QString invalid = "kept kept invalid kept kept kept kept";
+        QTest::addColumn<QString>("expected");
         const QString rule = "A[style=\"Dark\"]:hover { color: %1; }";
         const QString good = rule.arg("rgb(1, 2, 3)");
-        row("all",
-            "A[style=\"Dark\"]:focus { color: rgb(1,2,3); text-decoration-color: rgba(4,5,6,7); }"
-            "A[style=\"Dark\"]:hover { color: rgba( 11 , 12 , 13 , 255 ); text-decoration-color: "
-            "rgb(14,15,16); }"
+        const QString hover = "hoverColor=#ff010203";
+        const auto row = [](const QString &sheet, const QString &expected = {}) {
+            QTest::newRow(qPrintable(sheet.left(40))) << sheet << expected;
+        };
+        row("A[style=\"Dark\"]:focus { color: rgb(1,2,3); text-decoration-color: rgba(4,5,6,7); }"
+            "A[style=\"Dark\"]:hover { color: rgba( 11 , 12 , 13 , 255 ); text-decoration-color: rgb(1,1,1); "
+            "}"
             "A[style=\"Dark\"]:pressed { color: rgb(0,255,0); text-decoration-color: rgba(1,1,1,1); }"
             "A[style=\"Dark\"]::menu-indicator { image: url(:/arrow); }",
-            "#ff010203 #07040506 #ff0b0c0d #ff0e0f10 #ff00ff00 #01010101 :/arrow");
-        row("empty", "", none);
-        row("hover", good, hover);
-        row("no type name", "[style=\"Dark\"]:hover, *[style=\"Dark\"]:hover { color: rgb(1,2,3); }", none);
-        row("no style", "A:hover, A[other=\"Dark\"]:hover { color: rgb(1,2,3); }", none);
-        row("another style", "A[style=\"DarkSmall\"]:hover, A[style=\"dark\"]:hover { color: rgb(1,2,3); }",
-            none);
-        row("no state", "A[style=\"Dark\"], A[style=\"Dark\"]:checked { color: rgb(1,2,3); }", none);
-        row("negated", "A[style=\"Dark\"]:!hover { color: rgb(1,2,3); }", none);
-        row("negated, and not", "A[style=\"Dark\"]:!focus:hover { color: rgb(1,2,3); }", hover);
-        row("another property", "A[style=\"Dark\"]:hover { background-color: rgb(1,2,3); }", none);
-        row("list", "A[style=\"Dark\"]:hover, A[style=\"Light\"]:focus { color: rgb(1,2,3); }", hover);
-        row("two states", "A[style=\"Dark\"]:hover:pressed { color: rgb(1,2,3); }",
-            "kept kept #ff010203 kept #ff010203 kept kept");
-        row("style of an ancestor", "B[style=\"Dark\"] A:hover { color: rgb(1,2,3); }", hover);
+            "focusColor=#ff010203 focusUnderlineColor=#07040506 hoverColor=#ff0b0c0d "
+            "hoverUnderlineColor=#ff010101 pressedColor=#ff00ff00 pressedUnderlineColor=#01010101 "
+            "menuIndicatorIcon=:/arrow");
+        row(good, hover);
+        row("A[style=\"Dark\"]:!focus:hover { color: rgb(1,2,3); }", hover);
+        row("B[style=\"Dark\"] A:hover { color: rgb(1,2,3); }", hover);
+        row("A[style=\"Dark\"]:hover, A[style=\"Light\"]:focus { color: rgb(1,2,3); }", hover);
+        row("A[style=\"Dark\"]:hover:pressed { color: rgb(1,2,3); }", hover + " pressedColor=#ff010203");
+        row("A[style=\"Dark\"]::menu-indicator { image: none; color: red; }", "menuIndicatorIcon=none");
+        for (const char *foreign :
+             {"[style=\"Dark\"]:hover", "*[style=\"Dark\"]:hover", "A:hover", "A[other=\"Dark\"]:hover",
+              "A[style=\"DarkSmall\"]:hover", "A[style=\"dark\"]:hover", "A[style=\"Dark\"]",
+              "A[style=\"Dark\"]:checked", "A[style=\"Dark\"]:!hover"})
+            row(QString(foreign) + " { color: rgb(1,2,3); }");
         // Names of different types come out of a hash in any order.
         QString many;
         for (char name = 'A'; name <= 'Z'; ++name)
             many += QString("%1[style=\"Dark\"]:hover { color: rgb(9,9,%2); }")
                         .arg(QLatin1Char(name))
                         .arg(int(name));
-        row("last of many", many + good, hover);
-        row("last of one name", rule.arg("rgb(9,9,9)") + rule.arg("red") + good, hover);
-        row("last is invalid", good + rule.arg("red"), invalid);
-        row("does not parse", good + "B { color: }}", none);
+        row(many + good, hover);
+        row(rule.arg("rgb(9,9,9)") + rule.arg("red") + good, hover);
+        row(good + "B { color: }}"); // does not parse
         for (const char *color :
              {"#010203", "#123", "red", "transparent", "hsl(1,2,3)", "rgb(1,2)", "rgb(1)", "rgb()",
               "rgba(1,2,3)", "rgb(1,2,3,4)", "rgb(1,2,x)", "rgb(10%,2,3)", "rgb(256,0,0)", "rgba(1,2,3,0.5)",
               "rgb(-1,2,3)", "RGB(1,2,3)", "url(:/arrow)", "12", "\"rgb(1,2,3)\""})
-            row(color, rule.arg(color), invalid);
-        row("image", "A[style=\"Dark\"]::menu-indicator { image: none; color: rgb(1,2,3); }",
-            "kept kept kept kept kept kept none");
+            row(good + rule.arg(color), "hoverColor=invalid");
     }
 
     void sheet()
     {
         QFETCH(QString, sheet);
-        QFETCH(QStringList, expected);
-        const QColor kept(200, 100, 50);
         AbstractButton button;
-        button.setFocusColor(kept);
-        button.setFocusUnderlineColor(kept);
-        button.setHoverColor(kept);
-        button.setHoverUnderlineColor(kept);
-        button.setPressedColor(kept);
-        button.setPressedUnderlineColor(kept);
-        button.setMenuIndicatorIcon("kept");
+        const QColor kept(200, 100, 50);
+        const QByteArrayList names{"focusColor",          "focusUnderlineColor", "hoverColor",
+                                   "hoverUnderlineColor", "pressedColor",        "pressedUnderlineColor",
+                                   "menuIndicatorIcon"};
+        for (const QByteArray &name : names)
+            button.setProperty(name, name == "menuIndicatorIcon" ? QVariant("kept") : kept);
         button.setProperty("style", "Dark");
-        if (QByteArray(QTest::currentDataTag()) == "does not parse")
+        if (sheet.contains("}}"))
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Could not parse stylesheet"));
         button.setStyleSheet(sheet);
         QCOMPARE(button.hoverColor(), kept);   // not by setting the sheet
         for (int time = 0; time < 2; ++time) { // the second time what was read is known
             button.resolveStateProperties();
-            QStringList read;
-            for (const QColor &color :
-                 {button.focusColor(), button.focusUnderlineColor(), button.hoverColor(),
-                  button.hoverUnderlineColor(), button.pressedColor(), button.pressedUnderlineColor()})
-                read.append(color == kept      ? QString("kept")
-                            : !color.isValid() ? QString("invalid")
-                                               : color.name(QColor::HexArgb));
-            QCOMPARE(read << button.menuIndicatorIcon(), expected);
-        }
-    }
-
-    void sizeHint()
-    {
-        const QIcon strip = NVO::Icon(NVO::Pixmap(":/strip"));
-        for (int mask = 0; mask < 64; ++mask) {
-            AbstractButton button;
-            QMenu menu;
-            QFont font = button.font();
-            font.setPixelSize(mask & 1 ? 30 : 4);
-            button.setFont(font);
-            button.setText(mask & 2 ? "Mandant & Co" : "");
-            button.setIcon(mask & 4 ? strip : QIcon());
-            button.setIconSize(QSize(16, 16));
-            button.setMenu(mask & 8 ? &menu : nullptr);
-            button.setMenuIndicatorIcon(mask & 16 ? ":/arrow" : mask & 32 ? ":/missing" : "");
-            const QFontMetrics metrics(font);
-            QSize expected(metrics.horizontalAdvance(button.text()), metrics.height());
-            if (mask & 4)
-                expected = QSize(expected.width() + 21, qMax(16, expected.height()));
-            if (mask & 8 && mask & 16)
-                expected = QSize(expected.width() + 14, qMax(5, expected.height()));
-            else if (mask & 8 && mask & 32)
-                expected.rwidth() += 5;
-            QCOMPARE(button.sizeHint(), expected);
-            QCOMPARE(button.minimumSizeHint(), expected);
+            QStringList changed;
+            for (const QByteArray &name : names) {
+                const QVariant value = button.property(name);
+                const auto color = value.value<QColor>();
+                const bool isText = value.type() == QVariant::String;
+                if (isText ? value != "kept" : color != kept)
+                    changed += name + '='
+                               + (isText            ? value.toString()
+                                  : color.isValid() ? color.name(QColor::HexArgb)
+                                                    : "invalid");
+            }
+            QTEST(changed.join(' '), "expected");
         }
     }
 
@@ -410,10 +372,7 @@ private Q_SLOTS:
         button.setMenu(&menu);
         button.show();
         sendEvent(&button, QEvent::Enter);
-        QCOMPARE(shownCell(button), 1);
-
-        // The menu swallows leave and release.
-        int whileOpen = -1;
+        int whileOpen = -1; // the menu swallows leave and release
         QTimer::singleShot(0, this, [&] {
             whileOpen = shownCell(button);
             menu.close();
@@ -425,10 +384,8 @@ private Q_SLOTS:
 
         button.setMenu(nullptr);
         QTest::mousePress(&button, Qt::LeftButton);
-        QCOMPARE(shownCell(button), 0);
         QCOMPARE(button.cursor().shape(), Qt::CrossCursor);
         button.setEnabled(false);
-        QCOMPARE(shownCell(button), 3);
         button.setEnabled(true);
         QCOMPARE(shownCell(button), 2);
         QCOMPARE(button.cursor().shape(), Qt::PointingHandCursor);
@@ -436,10 +393,9 @@ private Q_SLOTS:
 
     void deletedInItsOwnSlots()
     {
-        for (const bool onPress : {true, false}) {
+        for (const auto signal : {&AbstractButton::pressed, &AbstractButton::released}) {
             QPointer<AbstractButton> button = new Link;
-            connect(button, onPress ? &AbstractButton::pressed : &AbstractButton::released, this,
-                    [button] { delete button; });
+            connect(button, signal, this, [button] { delete button; });
             for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
                 QMouseEvent event(type, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
                 if (button)
@@ -453,24 +409,22 @@ private Q_SLOTS:
     {
         const QByteArrayList keys{"Dark", "DarkSmall", "Light", "LightSmall"};
         const FontDeltaGuard guard;
-        for (int from = 0; from < keys.size(); ++from) {
-            for (int to = 0; to < keys.size(); ++to) {
-                NVO::Css::instance().setFontDelta(0);
-                IconButton button;
-                QCOMPARE(button.iconButtonStyle(), IconButtonStyle::Dark);
-                QCOMPARE(button.focusPolicy(), Qt::StrongFocus);
-                button.setIconButtonStyle(IconButtonStyle(from));
-                button.setIconButtonStyle(IconButtonStyle(to));
-                QCOMPARE(button.property("style").toByteArray(), keys[to]);
-                QCOMPARE(button.font().pixelSize(), to % 2 ? 10 : 13);
+        for (int change = 0; change < 16; ++change) {
+            const int to = change % 4;
+            NVO::Css::instance().setFontDelta(0);
+            IconButton button;
+            QCOMPARE(button.focusPolicy(), Qt::StrongFocus);
+            button.setIconButtonStyle(IconButtonStyle(change / 4));
+            button.setIconButtonStyle(IconButtonStyle(to));
+            QCOMPARE(button.property("style").toByteArray(), keys[to]);
+            for (const int delta : {0, 4}) {
+                NVO::Css::instance().setFontDelta(delta);
+                QCOMPARE(button.font().pixelSize(), delta + (to % 2 ? 10 : 13));
                 QCOMPARE(button.hoverColor(), QColor(255, 0, to));
-                NVO::Css::instance().setFontDelta(4);
-                QCOMPARE(button.font().pixelSize(), to % 2 ? 14 : 17);
-                QCOMPARE(button.hoverColor(), QColor(255, 0, to));
-                button.setIconButtonStyle(IconButtonStyle(99)); // keeps the name, not the small font
-                QCOMPARE(button.property("style").toByteArray(), keys[to]);
-                QCOMPARE(button.font().pixelSize(), 17);
             }
+            button.setIconButtonStyle(IconButtonStyle(99)); // keeps the name, not the small font
+            QCOMPARE(button.property("style").toByteArray(), keys[to]);
+            QCOMPARE(button.font().pixelSize(), 17);
         }
     }
 
@@ -497,53 +451,43 @@ private Q_SLOTS:
     void accessibility()
     {
         IconButton button;
-        button.setIcon(NVO::Icon(NVO::Pixmap(":/strip")));
         button.setToolTip("<b>Hilfe</b> zur Seite");
-        const auto text = [&button](QAccessible::Text type) {
-            return QAccessible::queryAccessibleInterface(&button)->text(type);
+        QAccessibleInterface *ours = QAccessible::queryAccessibleInterface(&button);
+        const auto texts = [&] {
+            return ours->text(QAccessible::Name) + '|' + ours->text(QAccessible::Description);
         };
-        QCOMPARE(text(QAccessible::Name), QString("Hilfe zur Seite"));
-        QCOMPARE(text(QAccessible::Description), QString());
+        QCOMPARE(texts(), QString("Hilfe zur Seite|"));
         QCOMPARE(button.accessibleName(), QString()); // the application's own
         button.setText("Hilfe & Tipps");              // called as it is drawn
-        QCOMPARE(text(QAccessible::Name), QString("Hilfe & Tipps"));
-        QCOMPARE(text(QAccessible::Description), QString("Hilfe zur Seite"));
+        QCOMPARE(texts(), QString("Hilfe & Tipps|Hilfe zur Seite"));
         button.setAccessibleName("Anleitung");
-        QCOMPARE(text(QAccessible::Name), QString("Anleitung"));
+        QCOMPARE(texts(), QString("Anleitung|Hilfe zur Seite"));
 
         // All else is as Qt says it of a push button.
         QPushButton peer;
         QMenu menu;
-        for (int mask = 0; mask < 32; ++mask) {
+        QAccessibleInterface *qts = QAccessible::queryAccessibleInterface(&peer);
+        for (int mask = 31; mask >= 0; --mask) {
             for (QPushButton *each : {static_cast<QPushButton *>(&button), &peer}) {
                 each->setCheckable(mask & 1);
                 each->setChecked(mask & 2);
                 each->setAutoExclusive(mask & 4);
-                each->setEnabled(mask & 8);
+                each->setEnabled(mask % 16 < 8);
                 each->setMenu(mask & 16 ? &menu : nullptr);
                 each->setFocusPolicy(Qt::StrongFocus);
                 each->setShortcut(QKeySequence(mask & 1 ? "Alt+H" : ""));
             }
-            QAccessibleInterface *ours = QAccessible::queryAccessibleInterface(&button);
-            QAccessibleInterface *qts = QAccessible::queryAccessibleInterface(&peer);
             QCOMPARE(ours->role(), qts->role());
-            const QAccessible::State left = ours->state();
-            const QAccessible::State right = qts->state();
-            QVERIFY(left == right);
+            QVERIFY(ours->state() == qts->state());
             QCOMPARE(ours->text(QAccessible::Accelerator), QString(mask & 1 ? "Alt+H" : ""));
             QCOMPARE(ours->childCount(), 0);
             const QStringList actions = ours->actionInterface()->actionNames();
             QCOMPARE(actions, qts->actionInterface()->actionNames());
             if (button.isEnabled())
-                QCOMPARE(ours->actionInterface()->keyBindingsForAction(actions.first()),
-                         mask & 1 ? QStringList("Alt+H") : QStringList());
+                QCOMPARE(ours->actionInterface()->keyBindingsForAction(actions.first()).size(), mask & 1);
         }
-        button.setMenu(nullptr);
-        button.setCheckable(false);
-        button.setEnabled(true);
-        QSignalSpy clicks(&button, &IconButton::clicked);
-        QAccessible::queryAccessibleInterface(&button)->actionInterface()->doAction(
-            QAccessibleActionInterface::pressAction());
+        const QSignalSpy clicks(&button, &IconButton::clicked);
+        ours->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QTRY_COMPARE(clicks.count(), 1);
     }
 

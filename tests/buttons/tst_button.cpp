@@ -114,20 +114,17 @@ private Q_SLOTS:
     void styleSwitches()
     {
         // A live change of the style leaves nothing of the old one behind but the icon.
-        const auto look = [](const Button &button) {
+        const auto look = [](Button::ButtonStyle from, Button::ButtonStyle to) {
+            Button button;
+            button.setButtonStyle(from);
+            button.show();
+            button.setButtonStyle(to);
             return QVariantList{button.property("style"), button.font(), int(button.focusPolicy()),
                                 int(button.sizePolicy().horizontalPolicy()), shadowShows(button)};
         };
         for (int change = 0; change < keys.size() * keys.size(); ++change) {
             const auto to = Button::ButtonStyle(change / keys.size());
-            Button button;
-            button.setButtonStyle(Button::ButtonStyle(change % keys.size()));
-            button.show();
-            button.setButtonStyle(to);
-            Button fresh;
-            fresh.setButtonStyle(to);
-            fresh.show();
-            QCOMPARE(look(button), look(fresh));
+            QCOMPARE(look(Button::ButtonStyle(change % keys.size()), to), look(to, to));
         }
         Button button;
         button.setButtonStyle(Button::Close);
@@ -161,13 +158,13 @@ private Q_SLOTS:
                 }
             }
         }
-        Button button;
+        Button button; // somebody else's effect, and none
         auto *opacity = new QGraphicsOpacityEffect;
-        button.setGraphicsEffect(opacity);
-        button.setShadowEnabled(false);
-        QVERIFY(opacity->isEnabled());
-        button.setGraphicsEffect(nullptr);
-        button.setShadowEnabled(true);
+        for (QGraphicsEffect *effect : {static_cast<QGraphicsEffect *>(opacity), {}}) {
+            button.setGraphicsEffect(effect);
+            button.setShadowEnabled(effect == nullptr);
+            QVERIFY(!effect || opacity->isEnabled());
+        }
     }
 
     void handPainting()
@@ -191,7 +188,7 @@ private Q_SLOTS:
         }
     }
 
-    void iconOnlyStates()
+    void statesOfTheMouse()
     {
         Button button;
         button.setButtonStyle(Button::MacClose);
@@ -206,23 +203,18 @@ private Q_SLOTS:
             QPainter(&expected).fillRect(0, 0, 14, 14, QColor(pand[state]));
             QCOMPARE(button.grab().toImage(), expected.toImage());
         }
-    }
-
-    void hoveredMenuEntryLooksFocused()
-    {
-        Button button;
-        button.setButtonStyle(Button::Menu);
-        for (const QColor &color : {ground, QColor(Qt::cyan)}) {
-            button.setAttribute(Qt::WA_UnderMouse, color != ground);
-            QCOMPARE(button.grab().toImage().pixelColor(2, 2), color);
+        Button entry; // looks focused under the mouse
+        entry.setButtonStyle(Button::Menu);
+        for (const bool hovered : {false, true}) {
+            entry.setAttribute(Qt::WA_UnderMouse, hovered);
+            QCOMPARE(entry.grab().toImage().pixelColor(2, 2), hovered ? QColor(Qt::cyan) : ground);
         }
     }
 
     void deletedInItsOwnSlots()
     {
-        for (const bool onPress : {true, false}) {
+        for (const auto signal : {&Button::pressed, &Button::released}) {
             QPointer<Button> button = new Button;
-            const auto signal = onPress ? &Button::pressed : &Button::released;
             connect(button, signal, this, [button] { delete button; });
             for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
                 QMouseEvent event(type, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);

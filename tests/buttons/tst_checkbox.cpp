@@ -58,13 +58,12 @@ private Q_SLOTS:
 
     void variants()
     {
-        OpenCheckBox live;
+        OpenCheckBox live("Skonto");
         live.show();
         for (int i = 0; i < styleKeys.size() * sizeKeys.size() * 2; ++i) {
             const int style = i % styleKeys.size();
             const int size = i / styleKeys.size() % sizeKeys.size();
             CheckBox fresh("Skonto");
-            live.setText("Skonto");
             int changes = 0;
             for (CheckBox *box : {static_cast<CheckBox *>(&live), &fresh, static_cast<CheckBox *>(&live)}) {
                 changes = live.counts[QEvent::StyleChange];
@@ -92,7 +91,6 @@ private Q_SLOTS:
             QVERIFY(!box.frame());
             box.setExtraBorder(true);
             QCOMPARE(box.frame()->isVisible(), visible);
-            QCOMPARE(box.frame()->geometry(), box.frameRect());
             const QPoint place = box.frame()->geometry().center();
             QVERIFY(!box.childAt(place)); // the mouse is for the check box
             QCOMPARE(box.grab().toImage().pixelColor(place.x(), box.frame()->y() + 1), QColor(Qt::red));
@@ -109,7 +107,6 @@ private Q_SLOTS:
         // Each step leaves the size as it is, or is nothing but a new size.
         const QVector<std::function<void()>> steps{
             [&] { box.setText("Skonto und Mahnung"); },
-            [&] { box.setCheckBoxSize(CheckBox::CheckBoxSize::Small); },
             [&] { box.setCheckBoxSize(CheckBox::CheckBoxSize::Flyout); },
             [&] { box.setLayoutDirection(Qt::RightToLeft); },
             [&] { box.resize(500, 60); },

@@ -69,21 +69,18 @@ private Q_SLOTS:
                                     properties.shortcut.toString(), roles.key(properties.role)}
                             .join('|'));
             const DialogButton button(NVO::Icon(), DialogButton::ButtonType(value), nullptr);
-            QCOMPARE(int(button.buttonType()), value);
             QCOMPARE(button.text(), properties.text);
             const QSize wanted = button.QPushButton::sizeHint().expandedTo(QSize(100, 0));
             QCOMPARE(button.sizeHint(), wanted);
             QCOMPARE(button.minimumSizeHint(), wanted);
         }
         QCOMPARE(read, QString(table).split(';'));
-        QCOMPARE(DialogButton().buttonType(), DialogButton::NoButton);
 
         // Any other value, and any two at once, mean nothing.
-        for (int one = 0; one < values.size(); ++one) {
-            for (int two = 0; two <= one; ++two) {
-                const uint value = values[one] | values[two];
-                const auto properties = DialogButton::properties(DialogButton::ButtonType(int(value)));
-                if (!keys.valueToKey(int(value)))
+        for (const uint one : qAsConst(values)) {
+            for (const uint two : qAsConst(values)) {
+                const auto properties = DialogButton::properties(DialogButton::ButtonType(int(one | two)));
+                if (!keys.valueToKey(int(one | two)))
                     QVERIFY(properties.text.isEmpty() && properties.shortcut.isEmpty()
                             && properties.role == QDialogButtonBox::AcceptRole);
             }
@@ -112,19 +109,20 @@ private Q_SLOTS:
         button.setText(QString(5, QChar(0x2588))); // blocks
         button.resize(120, 30);
         button.show();
-        const auto look = [&button] {
+        for (const auto &ground : {Qt::yellow, Qt::green, Qt::cyan, Qt::yellow}) {
             const QImage picture = button.grab().toImage();
-            return qMakePair(picture.pixelColor(1, 1), picture.pixelColor(60, 15));
-        };
-        QCOMPARE(look(), qMakePair(QColor(Qt::yellow), QColor(Qt::blue)));
-        sendEvent(&button, QEvent::Enter);
-        QTest::mouseMove(&button, QPoint(60, 15));
-        QCOMPARE(look(), qMakePair(QColor(Qt::green), QColor(Qt::blue)));
-        QTest::mousePress(&button, Qt::LeftButton);
-        QCOMPARE(look(), qMakePair(QColor(Qt::cyan), QColor(Qt::blue)));
-        QTest::mouseRelease(&button, Qt::LeftButton);
-        sendEvent(&button, QEvent::Leave);
-        QCOMPARE(look(), qMakePair(QColor(Qt::yellow), QColor(Qt::blue)));
+            QCOMPARE(picture.pixelColor(1, 1), QColor(ground));
+            QCOMPARE(picture.pixelColor(60, 15), QColor(Qt::blue));
+            if (ground == Qt::yellow) {
+                sendEvent(&button, QEvent::Enter);
+                QTest::mouseMove(&button, QPoint(60, 15));
+            } else if (ground == Qt::green) {
+                QTest::mousePress(&button, Qt::LeftButton);
+            } else {
+                QTest::mouseRelease(&button, Qt::LeftButton);
+                sendEvent(&button, QEvent::Leave);
+            }
+        }
     }
 
 private:

@@ -42,33 +42,26 @@ class TestMessageBox : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void width_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("width");
-        const QString word = "Buchung ";
-        QTest::newRow("empty") << QString() << 520;
-        QTest::newRow("short") << word << 520;
-        QTest::newRow("lines of their own") << QString("Zeile<br>").repeated(12) << 520;
-        QTest::newRow("wraps") << word.repeated(40) << 630;
-        QTest::newRow("very long") << word.repeated(900) << 630;
-    }
     void width()
     {
-        QFETCH(QString, text);
-        for (const bool effects : {true, false}) {
-            const auto guard = withEffects(effects);
-            for (const QMessageBox::Icon icon : {QMessageBox::NoIcon, QMessageBox::Warning}) {
-                MessageBox box(icon, "Titel", text, DialogButton::Ok, DialogButton::Ok, nullptr);
-                QTEST(box.sizeHint().width(), "width");
-                QCOMPARE(box.sizeHint().height(), box.heightForWidth(box.sizeHint().width()));
-                QCOMPARE(box.minimumSizeHint(), box.sizeHint());
-                box.show();
-                QCOMPARE(box.size(), box.sizeHint().boundedTo(box.screen()->availableSize()));
-                const auto *message = box.findChild<Label *>("mmessage");
-                QVERIFY(message->height() >= message->heightForWidth(message->width())
-                        || box.height() == box.screen()->availableSize().height());
-            }
+        const QString word = "Buchung ";
+        const QVector<QPair<QString, int>> textsAndWidths{{"", 520},
+                                                          {word, 520},
+                                                          {QString("Zeile<br>").repeated(12), 520},
+                                                          {word.repeated(40), 630},
+                                                          {word.repeated(900), 630}};
+        for (int i = 0; i < 4 * textsAndWidths.size(); ++i) {
+            const auto guard = withEffects(i % 2);
+            const auto &row = textsAndWidths[i / 4];
+            MessageBox box(i & 2 ? QMessageBox::Warning : QMessageBox::NoIcon, "Titel", row.first,
+                           DialogButton::Ok, DialogButton::Ok, nullptr);
+            QCOMPARE(box.sizeHint(), QSize(row.second, box.heightForWidth(row.second)));
+            QCOMPARE(box.minimumSizeHint(), box.sizeHint());
+            box.show();
+            QCOMPARE(box.size(), box.sizeHint().boundedTo(box.screen()->availableSize()));
+            const auto *message = box.findChild<Label *>("mmessage");
+            QVERIFY(message->height() >= message->heightForWidth(message->width())
+                    || box.height() == box.screen()->availableSize().height());
         }
     }
 
@@ -91,44 +84,30 @@ private Q_SLOTS:
         box.hide();
         box.show();
         QCOMPARE(box.size(), QSize(700, 500));
-
-        const auto wide = DialogButton::SetBookmark | DialogButton::DeleteBookmark | DialogButton::GoToMapping
-                          | DialogButton::AbgabeComplete;
-        MessageBox row(QMessageBox::NoIcon, "Titel", "Text", wide, DialogButton::NoButton, nullptr);
-        row.show();
-        for (const DialogButton *button : row.findChildren<DialogButton *>())
-            QVERIFY(button->width() >= button->sizeHint().width());
-        MessageBox narrow(QMessageBox::NoIcon, "Titel", "Text", DialogButton::Ok, DialogButton::Ok, nullptr);
-        narrow.setFixedWidth(400);
-        narrow.show();
-        QCOMPARE(narrow.width(), 400);
+        box.setFixedWidth(400);
+        box.hide();
+        box.show();
+        QCOMPARE(box.width(), 400);
     }
 
     void parts()
     {
-        const QMap<QMessageBox::Icon, QString> pixmaps{
-            {QMessageBox::NoIcon, ""},           {QMessageBox::Information, "information"},
-            {QMessageBox::Warning, "warning"},   {QMessageBox::Critical, "critical"},
-            {QMessageBox::Question, "question"}, {QMessageBox::Icon(7), "unknown"}};
-        for (auto icon = pixmaps.begin(); icon != pixmaps.end(); ++icon) {
-            MessageBox box(icon.key(), "Titel", "Löschen? <a href=\"mehr\">Mehr</a>",
+        const QVector<QMessageBox::Icon> icons{QMessageBox::NoIcon,   QMessageBox::Icon(7),
+                                               QMessageBox::Critical, QMessageBox::Information,
+                                               QMessageBox::Question, QMessageBox::Warning};
+        for (int i = 0; i < icons.size(); ++i) {
+            MessageBox box(icons[i], "Titel", "Löschen? <a href=\"mehr\">Mehr</a>",
                            DialogButton::Yes | DialogButton::No, DialogButton::No, nullptr);
-            QCOMPARE(box.objectName(), QString("NvoMessageBox"));
-            QCOMPARE(box.windowTitle(), QString("Titel"));
             const auto *label = box.findChild<QLabel *>("icon");
-            QCOMPARE(label != nullptr, icon.key() != QMessageBox::NoIcon);
+            QCOMPARE(label != nullptr, i > 0);
             if (label) {
                 QCOMPARE(label->size(), QSize(40, 40));
                 const QPixmap pixmap = label->pixmap(Qt::ReturnByValue);
-                QCOMPARE(pixmap.isNull(), *icon == "unknown");
-                if (!pixmap.isNull())
-                    QCOMPARE(pixmap.width(), pixmaps.values().indexOf(*icon) + 1);
+                QCOMPARE(pixmap.width(), i > 1 ? i : 0);
             }
-            QString link;
-            connect(&box, &MessageBox::linkActivated,
-                    [&link](const QString &activated) { link = activated; });
+            const QSignalSpy links(&box, &MessageBox::linkActivated);
             Q_EMIT box.findChild<Label *>("mmessage")->linkActivated("mehr");
-            QCOMPARE(link, QString("mehr"));
+            QCOMPARE(links, QList<QVariantList>{{"mehr"}});
             QCOMPARE(QAccessible::queryAccessibleInterface(&box)->text(QAccessible::Description),
                      QString("Löschen? Mehr"));
         }
@@ -176,31 +155,31 @@ private Q_SLOTS:
                 names.prepend("subHeader");
             if (bits & 2)
                 names.prepend("caption");
-            QCOMPARE(visibleNames(box.content()), names);
             box.setInfoBox(InfoBox::Error, "Achtung", QPixmap(), Qt::AlignTop);
-            QCOMPARE(visibleNames(box.content()), names);
-            box.setInfoBoxVisible(true);
-            QCOMPARE(visibleNames(box.content()), QStringList("infoBox") + names);
-            box.setInfoBoxVisible(false);
+            for (const bool visible : {false, true, false}) {
+                if (visible || box.isVisible())
+                    box.setInfoBoxVisible(visible);
+                QCOMPARE(visibleNames(box.content()),
+                         (visible ? QStringList("infoBox") : QStringList()) + names);
+                box.show();
+            }
+            box.hide();
             box.show();
-            QCOMPARE(visibleNames(box.content()), names);
             QCOMPARE(box.size(), box.sizeHint());
 
             const auto *bar = box.findChild<QFrame *>("frameCheckboxBar");
-            const bool hasButtons = bits & (1 | 8);
             box.setCheckBoxText("Merken");
             box.setCheckBoxChecked(true);
             QVERIFY(!bar->isVisible() && box.checkBoxIsChecked());
             box.setCheckBoxVisible(true);
-            QCOMPARE(visibleNames(bar).size(), hasButtons ? 3 : 1);
+            QCOMPARE(visibleNames(bar).size(), bits & (1 | 8) ? 3 : 1);
             QCOMPARE(visibleNames(bar).last(), QString("SelectionMessageBoxCheckBox"));
             QVERIFY(bar->isVisible());
             box.setCheckBoxVisible(false);
             QVERIFY(!bar->isVisible());
-            QVERIFY(box.buttonsContainer()->layout()->contentsMargins().isNull());
         }
         TestedSelection box(nullptr, "", "<a href=\"x\">x</a>", "", DialogButton::Close, "");
-        QSignalSpy links(&box, &SelectionMessageBoxBase::linkActivated);
+        const QSignalSpy links(&box, &SelectionMessageBoxBase::linkActivated);
         Q_EMIT box.findChild<Label *>("caption")->linkActivated("x");
         QCOMPARE(links.count(), 1);
     }
@@ -210,10 +189,10 @@ private:
 
     const TestResources m_theme{QMap<QString, QByteArray>{
         {"Palette", "[Named]\nBASECOLOR_SILVER=#112233\nBASECOLOR_MERCURY_GRAY=#445566\n"},
-        {"information", picture(2)},
-        {"warning", picture(3)},
-        {"critical", picture(4)},
-        {"question", picture(5)}}};
+        {"critical", picture(2)},
+        {"information", picture(3)},
+        {"question", picture(4)},
+        {"warning", picture(5)}}};
 };
 
 QTEST_MAIN(TestMessageBox)

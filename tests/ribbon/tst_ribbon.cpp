@@ -1,4 +1,3 @@
-#include "SignalRecorder.h"
 #include "TestCase.h"
 
 #include <nvo/Action.h>
@@ -83,6 +82,7 @@ struct Fixture
             texts += label->size() == QSize(20, 20) && !label->isHidden() ? label->text() : "wrong";
         return texts.join(' ');
     }
+    void collapse() { ribbon->resize(40, 160); }
     QPushButton *buttonOf(int group) const
     {
         return groups[group]->findChild<QPushButton *>("RibbonGroupButton");
@@ -110,49 +110,44 @@ private Q_SLOTS:
     void fileTab()
     {
         Fixture f("A:1 B:1 C:1");
-        const QSignalSpy triggered(&f.file, &QAction::triggered);
-        QCOMPARE(f.bar(), QString("Datei [A] B C"));
+        int triggered = 0;
+        // It goes back by page, not by index: the page moves, and then it is gone.
+        connect(&f.file, &QAction::triggered, this, [&] {
+            if (++triggered > 1)
+                f.tabs[triggered - 2]->action()->setVisible(false);
+        });
         f.ribbon->showTab(2);
-        f.ribbon->setCurrentIndex(0);
-        QCOMPARE(triggered.count(), 1);
-        QCOMPARE(f.bar(), QString("Datei A [B] C"));
-        // By page, not by index: the page has moved, and then it is gone.
-        connect(&f.file, &QAction::triggered, this, [&] { f.tabs[0]->action()->setVisible(false); });
-        f.ribbon->setCurrentIndex(0);
-        QCOMPARE(f.bar(), QString("Datei [B] C"));
-        connect(&f.file, &QAction::triggered, this, [&] { f.tabs[1]->action()->setVisible(false); });
-        f.ribbon->setCurrentIndex(0);
-        QCOMPARE(f.bar(), QString("Datei [C]"));
-        QCOMPARE(triggered.count(), 3);
+        for (const char *bar : {"Datei A [B] C", "Datei [B] C", "Datei [C]"}) {
+            f.ribbon->setCurrentIndex(0);
+            QCOMPARE(f.bar(), QString(bar));
+        }
         f.ribbon->removeTab(1); // the file tab takes its place
         QCOMPARE(f.bar(), QString("[Datei]"));
-        QCOMPARE(triggered.count(), 3);
+        QCOMPARE(triggered, 3);
     }
 
     void tabsLeaveAndReturn()
     {
         Fixture f("A:1 B:2 C:1");
-        f.ribbon->setCurrentIndex(3);
-        f.tabs[1]->action()->setVisible(false);
-        QCOMPARE(f.bar(), QString("Datei A [C]"));
         f.file.setVisible(false); // stays
-        f.tabs[0]->action()->setText("Anders");
-        QCOMPARE(f.bar(), QString("Datei Anders [C]"));
-        f.actionOf(0)->setVisible(false);
-        f.tabs[1]->action()->setVisible(true);
-        QCOMPARE(f.bar(), QString("Datei B [C]"));
-        f.actionOf(0)->setVisible(true);
-        QCOMPARE(f.bar(), QString("Datei ANDERS B [C]"));
-        f.tabs[0]->action()->setToolTip("Tipp");
-        QCOMPARE(f.bar(), QString("Datei Anders B [C]"));
-        QCOMPARE(f.ribbon->tabToolTip(1), QString("Tipp"));
-        QVERIFY(f.tabs[2]->isVisibleTo(f.ribbon) && !f.tabs[0]->isVisibleTo(f.ribbon));
-        for (const int tab : {2, 0, 1})
-            f.tabs[tab]->action()->setVisible(false);
-        f.tabs[2]->action()->setVisible(true);
-        QCOMPARE(f.bar(), QString("Datei [C]"));
-        delete f.tabs[0]; // off the bar, and then one that is on it
-        delete f.tabs[2];
+        f.ribbon->setCurrentIndex(3);
+        const QVector<QPair<std::function<void()>, const char *>> steps{
+            {[&] { f.tabs[1]->action()->setVisible(false); }, "Datei A [C]"},
+            {[&] { f.tabs[0]->action()->setText("Anders"); }, "Datei Anders [C]"},
+            {[&] { f.actionOf(0)->setVisible(false); }, "Datei [C]"},
+            {[&] { f.tabs[1]->action()->setVisible(true); }, "Datei B [C]"},
+            {[&] { f.actionOf(0)->setVisible(true); }, "Datei ANDERS B [C]"},
+            {[&] { f.tabs[0]->action()->setToolTip("Tipp"); }, "Datei Anders B [C]"},
+            {[&] { f.tabs[0]->action()->setText(f.ribbon->tabToolTip(1)); }, "Datei Tipp B [C]"},
+            {[&] { f.tabs[2]->action()->setVisible(false); }, "Datei Tipp [B]"},
+            {[&] { f.tabs[0]->action()->setVisible(false); }, "Datei [B]"},
+            {[&] { delete f.tabs[0]; }, "Datei [B]"},
+            {[&] { delete f.tabs[1]; }, "[Datei]"},
+            {[&] { f.tabs[2]->action()->setVisible(true); }, "Datei [C]"}};
+        for (const auto &step : steps) {
+            step.first();
+            QCOMPARE(f.bar(), QString(step.second));
+        }
         QVERIFY(!f.ribbon->selectTabByKey("A"));
     }
 
@@ -181,11 +176,9 @@ private Q_SLOTS:
             for (RibbonTab *tab : qAsConst(f.tabs))
                 QCOMPARE(f.ribbon->indexOf(tab) >= 0, tab->isVisible());
         }
-        QCOMPARE(first.count() + second.count(), changes);
-        QCOMPARE(f.ribbon->extrasMade, 1);
         f.groups[0]->action()->setEnabled(false);
-        f.tabs[0]->action()->setText("Neu");
-        QCOMPARE(first.count() + second.count(), changes + 2);
+        QCOMPARE(first.count() + second.count(), changes + 1);
+        QCOMPARE(f.ribbon->extrasMade, 1);
         QVERIFY(!f.controls[0]->isEnabled());
         f.groups[0]->action()->setVisible(false);
         QVERIFY(f.groups[0]->isHidden() && f.tabs[0]->isVisible());
@@ -199,13 +192,9 @@ private Q_SLOTS:
             return !label->isHidden() && label->text().contains("Gruppe A");
         };
         QVERIFY(hasCaption(0) && !hasCaption(1) && f.groups[2]->isHidden());
-        f.groups[1]->action()->setText("Anders");
-        QVERIFY(f.groups[1]->findChild<QLabel *>("RibbonGroupLabel")->isHidden());
         f.actionOf(0)->setVisible(false);
         f.actionOf(1)->setVisible(false);
         QVERIFY(!hasCaption(0));
-        f.groups[0]->setSizeMode(RibbonControl::Small, false);
-        QCOMPARE(f.groups[0]->sizeMode(), RibbonControl::Large);
     }
 
     void separators()
@@ -215,22 +204,17 @@ private Q_SLOTS:
         f.tabs[0]->addGroupObject(f.action("Bild"));
         qApp->removeEventFilter(this);
         QCOMPARE(m_windowsShown, 0); // nothing flashes up on its own
-        const auto hidden = [&f] {
-            QString result;
-            for (const QWidget *line : f.tabs[0]->findChildren<QWidget *>("RibbonSeperator"))
-                result += line->isHidden() ? '-' : '|';
-            return result;
-        };
-        QCOMPARE(hidden(), QString("|||"));
-        f.actionOf(1)->setVisible(false);
-        QCOMPARE(hidden(), QString("-||"));
-        f.actionOf(0)->setVisible(false); // the next one has only hidden widgets before it now
-        QCOMPARE(hidden(), QString("--|"));
-        f.actionOf(1)->setVisible(true);
-        QCOMPARE(hidden(), QString("-||"));
-        auto *line = f.tabs[0]->findChild<QWidget *>("RibbonSeperator");
-        line->setContentsMargins(3, 5, 4, 6);
-        const auto *control = dynamic_cast<const RibbonControl *>(line);
+        const auto lines = f.tabs[0]->findChildren<QWidget *>("RibbonSeperator");
+        const QVector<QPair<int, QString>> toggledAndLines{{1, "-||"}, {0, "--|"}, {1, "-||"}};
+        for (const auto &row : toggledAndLines) {
+            f.actionOf(row.first)->setVisible(!f.actionOf(row.first)->isVisible());
+            QString shown;
+            for (const QWidget *line : lines)
+                shown += line->isHidden() ? '-' : '|';
+            QCOMPARE(shown, row.second);
+        }
+        lines.first()->setContentsMargins(3, 5, 4, 6);
+        const auto *control = dynamic_cast<const RibbonControl *>(lines.first());
         QCOMPARE(control->sizeFromMode(RibbonControl::Auto, false), QSize(7, 72 - 11));
         qDeleteAll(f.groups);
         QVERIFY(!control->controlVisible());
@@ -239,58 +223,35 @@ private Q_SLOTS:
     void keytips()
     {
         Fixture f("A:2,2 B:1");
-        const auto shown = [&f](bool tabs, bool controls) {
-            return f.ribbon->areKeytipsVisible() == tabs && f.ribbon->areControlKeytipsVisible() == controls;
-        };
         f.tabs[1]->action()->setShortcut(QKeySequence("b"));
         f.actionOf(1)->setMacroIndexkey(QString());
-        f.groups[1]->setSizeMode(RibbonControl::Small, false);
-        f.ribbon->resize(60, 160);
-        f.show();
         f.groups[0]->setFixSizeMode(RibbonControl::Large);
-        f.ribbon->resize(150, 160);
-        QVERIFY(f.ribbon->toggleKeyfocus());
+        f.groups[1]->setFixSizeMode(RibbonControl::Small);
+        f.show();
+        QVERIFY(f.ribbon->toggleKeyfocus() && f.ribbon->tabBar()->hasFocus());
         QCOMPARE(f.keytips("RibbonKeytip"), QString(" A B")); // the file tab has no key
-        QCOMPARE(f.ribbon->tabBar()->property("style").toString(), QString("focus"));
-        QVERIFY(f.ribbon->tabBar()->hasFocus());
-        const auto labels = f.ribbon->findChildren<QLabel *>("RibbonKeytip");
-        for (int i = 0; i < 3; ++i) {
-            const QRect place = f.ribbon->tabBar()->tabRect(i);
-            const int x = place.center().x() - labels[i]->sizeHint().width() / 2;
-            QCOMPARE(labels[i]->pos(), QPoint(x, place.bottom() - 2));
-        }
-        QVERIFY(!f.ribbon->toggleKeyfocus());
-        QVERIFY(shown(false, false));
-
+        QVERIFY(!f.ribbon->toggleKeyfocus() && !f.ribbon->areKeytipsVisible());
         f.ribbon->showKeytips();
         QVERIFY(!f.ribbon->selectTabByKey("X") && !f.ribbon->selectTabByKey(QString()));
-        QVERIFY(shown(true, false));
         QVERIFY(f.ribbon->selectTabByKey("b"));
         QCOMPARE(f.bar(), QString("Datei A [B]"));
-        QCOMPARE(f.keytips("RibbonKeytip"), QString());
         QVERIFY(f.ribbon->selectTabByKey("a"));
         // The group button shows the key of its first control.
         QCOMPARE(f.keytips("RibbonGroupKeytip"), f.actionOf(0)->text() + ' ' + f.actionOf(2)->text());
-        QVERIFY(shown(false, true));
+        QVERIFY(!f.ribbon->areKeytipsVisible() && f.ribbon->areControlKeytipsVisible());
         QVERIFY(!f.ribbon->selectControlByKey("nothing", true, false));
-        QVERIFY(shown(false, false));
+        QVERIFY(!f.ribbon->areControlKeytipsVisible());
 
         const QList<std::function<void()>> exits{
-            [&] { f.ribbon->setCurrentIndex(2); },
-            [&] { QTest::keyClick(f.ribbon->tabBar(), Qt::Key_Down); },
-            [&] { f.outside->setFocus(); },
-            [&] { f.ribbon->selectControlByKey(QString(), false, false); },
-            [&] { f.tabs[0]->action()->setVisible(false); },
-            [&] { delete f.tabs[1]; }};
-        for (int i = 0; i < exits.size(); ++i) {
+            [&] { f.ribbon->setCurrentIndex(2); }, [&] { QTest::keyClick(f.ribbon->tabBar(), Qt::Key_Down); },
+            [&] { f.outside->setFocus(); }, [&] { f.ribbon->selectControlByKey(QString(), false, false); }};
+        for (const auto &exit : exits) {
             f.ribbon->setCurrentIndex(1);
             f.ribbon->toggleKeyfocus();
             f.tabs[0]->action()->trigger(); // shows the keytips of its page, too
-            exits[i]();
-            if (i > 3)
-                f.ribbon->hideKeytips();
+            exit();
             QCOMPARE(f.keytips("RibbonKeytip"), QString());
-            QVERIFY2(!f.ribbon->areKeytipsVisible(), qPrintable(QString::number(i)));
+            QVERIFY(!f.ribbon->areKeytipsVisible());
         }
     }
 
@@ -298,42 +259,34 @@ private Q_SLOTS:
     {
         Fixture f("A:2,1 B:3");
         f.show();
-        QStringList triggered;
+        QString triggered;
         for (int i = 0; i < 6; ++i)
             connect(f.actionOf(i), &QAction::triggered, this, [&, i] { triggered += QString::number(i); });
-        const auto chosen = [&](const QString &key, bool currentPage, bool shortcut) {
-            triggered.clear();
+        // Which action the key triggers, before a mark if the key was found
+        const auto chosen = [&](const QString &key, bool currentPage = false, bool shortcut = false) {
             const bool found = f.ribbon->selectControlByKey(key, currentPage, shortcut);
-            return (found ? "found " : "not found ") + triggered.join(' ');
+            return std::exchange(triggered, QString()) + (found ? "!" : "");
         };
         const auto key = [&f](int control) { return f.actionOf(control)->text(); };
         for (int i = 0; i < 6; ++i)
-            QCOMPARE(chosen(key(i), false, false), QString("found %1").arg(i));
-        QCOMPARE(chosen(key(4), true, false), QString("not found "));
+            QCOMPARE(chosen(key(i)), QString("%1!").arg(i));
+        QCOMPARE(chosen(key(4), true), QString());
         f.actionOf(0)->setEnabled(false);
-        QCOMPARE(chosen(key(0), false, false), QString("not found "));
+        QCOMPARE(chosen(key(0)), QString());
         for (const int i : {1, 2, 3, 4})
             f.actionOf(i)->setMacroIndexkey("same");
-        QCOMPARE(chosen("SAME", false, false), QString("found 1"));
+        QCOMPARE(chosen("SAME"), QString("1!"));
         f.actionOf(5)->setShortcut(QKeySequence("Ctrl+K"));
-        QCOMPARE(chosen("Ctrl+K", false, true), QString("found 5"));
-        QCOMPARE(chosen("ctrl+k", false, true), QString("not found "));
-        QCOMPARE(chosen(QString(), false, true), QString("not found "));
+        QCOMPARE(chosen("Ctrl+K", false, true), QString("5!"));
+        QCOMPARE(chosen("ctrl+k", false, true) + chosen("", false, true), QString());
         QVERIFY(f.ribbon->getIndexkeys().contains(
             QString("name%1 SAME  name%2 %2 ").arg(key(4), key(5)))); // each its own key
-
-        // A collapsed group opens its popup, and the search goes on behind it.
-        f.ribbon->resize(40, 160);
-        QCOMPARE(chosen("same", false, false), QString("found 2"));
-        const QPointer<RibbonGroup> popup = f.popupOf(0);
-        QVERIFY(popup && popup->isVisible() && popup->areControlKeytipsVisible());
-        QCOMPARE(f.buttonOf(0)->property("style").toString(), QString("open"));
-        QCOMPARE(chosen("same", false, false), QString("found 1"));
-        QCOMPARE(f.groups[0]->findChildren<RibbonGroup *>().size(), 1);
-        QTest::keyClick(popup, Qt::Key_Right);
-        QVERIFY(popup->isVisible());
-        QTest::keyClick(popup, Qt::Key_Escape);
-        QTRY_VERIFY(!popup);
+        f.collapse(); // opens its popup, and the search goes on behind it
+        QCOMPARE(chosen("same"), QString("2!"));
+        QVERIFY(f.popupOf(0) && f.popupOf(0)->areControlKeytipsVisible());
+        QCOMPARE(chosen("same"), QString("1!"));
+        QTest::keyClick(f.popupOf(0), Qt::Key_Escape);
+        QTRY_VERIFY(!f.popupOf(0));
         QCOMPARE(f.buttonOf(0)->property("style").toString(), QString("default"));
     }
 
@@ -406,34 +359,26 @@ private Q_SLOTS:
         f.show();
         QTabBar *bar = f.ribbon->tabBar();
         const QSignalSpy triggered(&f.file, &QAction::triggered);
-        const auto after = [&](Qt::Key key) {
-            QTest::keyClick(bar, key);
-            return bar->property("style").toString() + ' ' + f.bar() + ' '
-                   + QString::number(triggered.count());
-        };
         f.ribbon->toggleKeyfocus();
-        QCOMPARE(after(Qt::Key_Right), QString("focus Datei A [B] 0"));
-        QCOMPARE(after(Qt::Key_Left), QString("focus Datei [A] B 0"));
-        QCOMPARE(after(Qt::Key_Space), QString("focus Datei [A] B 0"));
-        QCOMPARE(after(Qt::Key_Left), QString("firstFocus Datei [A] B 0"));
-        QCOMPARE(after(Qt::Key_Return), QString("firstFocus Datei [A] B 1"));
-        QCOMPARE(after(Qt::Key_Right), QString("focus Datei [A] B 1"));
+        const auto press = [&](const QVector<QPair<Qt::Key, QString>> &keysAndLooks) {
+            for (const auto &row : keysAndLooks) {
+                QTest::keyClick(bar, row.first);
+                QCOMPARE(bar->property("style").toString() + ' ' + f.bar(), row.second);
+            }
+        };
+        press({{Qt::Key_Right, "focus Datei A [B]"},
+               {Qt::Key_Left, "focus Datei [A] B"},
+               {Qt::Key_Space, "focus Datei [A] B"},
+               {Qt::Key_Left, "firstFocus Datei [A] B"},
+               {Qt::Key_Return, "firstFocus Datei [A] B"},
+               {Qt::Key_Right, "focus Datei [A] B"}});
+        QCOMPARE(triggered.count(), 1);
         bar->setLayoutDirection(Qt::RightToLeft); // the file tab is at the other end
-        QCOMPARE(after(Qt::Key_Right), QString("firstFocus Datei [A] B 1"));
-        QCOMPARE(after(Qt::Key_Left), QString("focus Datei [A] B 1"));
-        QCOMPARE(after(Qt::Key_Left), QString("focus Datei A [B] 1"));
-        bar->setLayoutDirection(Qt::LeftToRight);
-        after(Qt::Key_Left);
+        press({{Qt::Key_Right, "firstFocus Datei [A] B"}, {Qt::Key_Left, "focus Datei [A] B"}});
         f.outside->setFocus();
         f.ribbon->toggleKeyfocus();
-        after(Qt::Key_Down);
+        QTest::keyClick(bar, Qt::Key_Down);
         QVERIFY(f.controls[0]->hasFocus());
-        f.ribbon->resize(40, 160);
-        f.ribbon->grab();
-        after(Qt::Key_Down); // what is behind a button is not reached
-        QVERIFY(f.buttonOf(0)->hasFocus());
-        f.ribbon->resize(1200, 160);
-        f.ribbon->grab();
         f.controls[1]->setFocus(); // from one control to the other: nothing new to remember
         f.ribbon->slotTriggerAction();
         QVERIFY(f.outside->hasFocus());
@@ -442,13 +387,16 @@ private Q_SLOTS:
         delete f.outside;
         f.ribbon->setOutsideFocusWidget();
         QVERIFY(f.controls[0]->hasFocus());
-        Fixture without("A:1 B:1", false);
-        without.ribbon->setCurrentIndex(1);
-        QCOMPARE(without.ribbon->tabBar()->property("style").toString(), QString("default"));
-        QTest::keyClick(without.ribbon->tabBar(), Qt::Key_Left);
-        without.actionOf(0)->setVisible(false); // no tab leaves
-        without.tabs[1]->action()->setVisible(false);
-        QCOMPARE(without.bar(), QString("[A] B"));
+    }
+
+    void withoutFileTab()
+    {
+        Fixture f("A:1 B:1", false);
+        QTest::keyClick(f.ribbon->tabBar(), Qt::Key_Left);
+        QCOMPARE(f.ribbon->tabBar()->property("style").toString(), QString("default"));
+        f.actionOf(0)->setVisible(false); // no tab leaves
+        f.tabs[1]->action()->setVisible(false);
+        QCOMPARE(f.bar(), QString("[A] B"));
     }
 
     void accessibility()
@@ -460,7 +408,7 @@ private Q_SLOTS:
             return seen(widget)->text(QAccessible::Name) + '|' + seen(widget)->text(QAccessible::Accelerator)
                    + '|' + seen(widget)->text(QAccessible::Description);
         };
-        Action *box = f.action("Netto<br>zeigen");
+        Action *box = f.action("Netto");
         box->setControlType(Action::CommandCheckBox);
         for (QWidget *control : {f.controls[1], f.groups[1]->addAction(box)}) {
             Action *action = dynamic_cast<RibbonControl *>(control)->action();
@@ -469,104 +417,89 @@ private Q_SLOTS:
             action->setShortcut(QKeySequence("Ctrl+T"));
             QCOMPARE(texts(control), QString("Netto zeigen|Ctrl+T|Hilfe"));
             QCOMPARE(seen(control)->role(), action == box ? QAccessible::CheckBox : QAccessible::Button);
-            QSignalSpy triggered(action, &QAction::triggered);
+            const QSignalSpy triggered(action, &QAction::triggered);
             QAccessibleActionInterface *actions = seen(control)->actionInterface();
-            const QString click = actions->actionNames().first();
-            QCOMPARE(actions->keyBindingsForAction(click), QStringList("Ctrl+T"));
-            actions->doAction(click);
+            QCOMPARE(actions->keyBindingsForAction(actions->actionNames().first()), QStringList("Ctrl+T"));
+            actions->doAction(actions->actionNames().first());
             QTRY_COMPARE(triggered.count(), 1);
             QCOMPARE(bool(seen(control)->state().checked), action == box);
-            action->setEnabled(false);
-            QVERIFY(seen(control)->state().disabled && !actions->actionNames().contains(click));
         }
-        f.groups[1]->action()->setText("Zwei<br>Zeilen");
-        f.groups[1]->setSizeMode(RibbonControl::Small, false);
         QCOMPARE(seen(f.groups[1])->role(), QAccessible::Grouping);
+        f.groups[1]->setSizeMode(RibbonControl::Small, false);
+        QVERIFY(texts(f.buttonOf(1)).startsWith("Gruppe A||"));
         QAccessibleInterface *button = seen(f.buttonOf(1));
-        QVERIFY(texts(f.buttonOf(1)).startsWith("Zwei Zeilen||"));
-        QCOMPARE(button->role(), QAccessible::ButtonMenu);
-        QVERIFY(button->state().hasPopup && button->state().collapsed);
+        QVERIFY(button->role() == QAccessible::ButtonMenu && button->state().collapsed);
         button->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
         QTRY_VERIFY(f.popupOf(1));
         QVERIFY(button->state().expanded && !button->state().collapsed);
         f.popupOf(1)->close();
-
         f.tabs[0]->showKeytips();
         f.ribbon->showKeytips();
         for (QLabel *keytip : f.window.findChildren<QLabel *>(QRegularExpression("Keytip$")))
             QVERIFY(seen(keytip)->state().invisible && texts(keytip) == "||");
-        QCOMPARE(seen(f.controls[0])->childCount(), 0);
     }
 
     void popup()
     {
         Fixture f("A:3,2 B:1");
-        f.ribbon->resize(40, 160);
+        f.collapse();
         f.show();
-        SignalRecorder recorder;
-        recorder.record(f.groups[0], &RibbonGroup::focusInOutEvent, "focus");
         f.actionOf(2)->setMacroIndexkey("q");
         const QSignalSpy triggered(f.actionOf(2), &QAction::triggered);
         QTest::mouseClick(f.buttonOf(0), Qt::LeftButton);
-        QPointer<RibbonGroup> popup = f.popupOf(0);
+        const QPointer<RibbonGroup> popup = f.popupOf(0);
         QVERIFY(popup && popup->isVisible() && popup->isWindow() && !popup->areControlKeytipsVisible());
         QCOMPARE(popup->property("style").toString(), QString("popup"));
         QCOMPARE(popup->size(), popup->sizeHint());
-        QCOMPARE(popup->visibleWidgets().size(), 3);
-        QVERIFY(QTest::qWaitForWindowExposed(popup));
-        QCoreApplication::processEvents();
-        QVERIFY(popup->visibleWidgets().first()->hasFocus());
+        QTRY_VERIFY(popup->visibleWidgets().first()->hasFocus());
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
         QVERIFY(popup->visibleWidgets()[1]->hasFocus());
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Q);
         QCOMPARE(triggered.count(), 1);
         QVERIFY(popup->isVisible()); // whether it closes then is up to the application
         f.actionOf(1)->setVisible(false);
-        QCOMPARE(popup->visibleWidgets().size(), 2);
-        recorder.take();
         popup->close();
         f.actionOf(1)->setVisible(true); // does not bring it back
         QVERIFY(!popup->isVisible());
-        QTRY_VERIFY(!popup);
-        QCOMPARE(recorder.take(), QStringList("focus"));
-        f.groups[0]->triggeredAction();
-        f.popupOf(0)->close();
         f.groups[0]->triggeredAction(); // the closed one still waits for its end
         QTRY_COMPARE(f.groups[0]->findChildren<RibbonGroup *>().size(), 1);
         QVERIFY(f.popupOf(0)->isVisible() && f.buttonOf(0)->property("style") == "open");
+    }
+
+    void popupEndsWithWhatItShows()
+    {
+        Fixture f("A:3,2 B:1");
+        f.actionOf(0)->setEnabled(false);
         const auto setVisible = [&](bool visible) {
             for (int i = 0; i < 3; ++i)
                 f.actionOf(i)->setVisible(visible);
         };
-        setVisible(false);
-        setVisible(true);
-        QCoreApplication::processEvents();
-        QVERIFY(f.popupOf(0)->isVisible());
-        setVisible(false);
-        QTRY_VERIFY(!f.popupOf(0));
-        setVisible(true);
-        QVERIFY(!f.popupOf(0));
-        const QList<std::function<void()>> ends{
-            [&] { f.ribbon->resize(1200, 160); }, [&] { f.ribbon->setCurrentIndex(2); },
-            [&] { f.tabs[0]->action()->setVisible(false); }, [&] { f.window.hide(); }};
+        const QList<std::function<void()>> ends{[&] { f.ribbon->resize(1200, 160); },
+                                                [&] { f.ribbon->setCurrentIndex(2); },
+                                                [&] { f.tabs[0]->action()->setVisible(false); },
+                                                [&] { setVisible(false); }, [&] { f.window.hide(); }};
         for (const auto &end : ends) {
-            f.ribbon->resize(40, 160);
+            f.show();
+            setVisible(true);
             f.tabs[0]->action()->setVisible(true);
             f.ribbon->setCurrentIndex(1);
+            f.collapse();
             QTest::qWait(1);
-            f.actionOf(0)->setEnabled(false);
             f.groups[0]->triggeredAction();
             QTRY_VERIFY(f.popupOf(0) && f.popupOf(0)->visibleWidgets()[1]->hasFocus());
+            setVisible(false); // comes back before anybody has seen it
+            setVisible(true);
+            QCoreApplication::processEvents();
+            QVERIFY(f.popupOf(0)->isVisible());
             end();
             QTRY_VERIFY(!f.popupOf(0));
         }
-
         RibbonGroup embedded(f.groups[0]->action(), true, nullptr);
         embedded.addAction(f.actionOf(0));
-        setVisible(false);
-        QVERIFY(embedded.isHidden());
-        setVisible(true);
-        QVERIFY(embedded.isVisible());
+        for (const bool visible : {false, true}) {
+            setVisible(visible);
+            QCOMPARE(embedded.isVisible(), visible);
+        }
     }
 
     void collapsedGroupsOpenAgain()
@@ -580,12 +513,11 @@ private Q_SLOTS:
             f.ribbon->resize(width, 160);
             QTest::qWait(1);
         }
-        for (int i = 7; i < 12; ++i)
-            f.actionOf(i)->setVisible(false);
-        QTRY_COMPARE(last->sizeMode(), RibbonControl::Large);
-        for (int i = 7; i < 12; ++i)
-            f.actionOf(i)->setVisible(true);
-        QTRY_COMPARE(last->sizeMode(), RibbonControl::Small);
+        for (const bool visible : {false, true}) {
+            for (int i = 7; i < 12; ++i)
+                f.actionOf(i)->setVisible(visible);
+            QTRY_COMPARE(last->sizeMode(), visible ? RibbonControl::Small : RibbonControl::Large);
+        }
         for (int i = 6; i < 12; ++i)
             f.actionOf(i)->setText("Kurz");
         QTRY_COMPARE(last->sizeMode(), RibbonControl::Large);
@@ -601,9 +533,8 @@ private Q_SLOTS:
         f.ribbon->getIndexkeys();
         f.ribbon->getControl("nameA1");
         f.controls[0]->setFocus();
-        QTest::keyClick(f.controls[0], Qt::Key_Space);
-        QTest::keyClick(f.controls[0], Qt::Key_Right);
-        f.ribbon->setCurrentIndex(2);
+        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Right})
+            QTest::keyClick(f.controls[0], key);
         f.groups[0]->setSizeMode(RibbonControl::Small, true);
         f.groups[0]->triggeredAction();
         f.ribbon->resize(90, 160);
@@ -616,7 +547,7 @@ private Q_SLOTS:
     {
         for (const int victim : {0, 1, 2, 3}) {
             Fixture f("A:3,2 B:1");
-            f.ribbon->resize(40, 160);
+            f.collapse();
             f.show();
             f.ribbon->showKeytips();
             f.tabs[0]->showKeytips();
@@ -678,7 +609,7 @@ private Q_SLOTS:
             } else if (run % 4 < 3) {
                 f.ribbon->selectControlByKey(own->text(), run % 4 == 1, false);
             } else {
-                f.ribbon->resize(40, 160);
+                f.collapse();
                 f.groups[0]->triggeredAction();
                 QTest::keyClick(f.popupOf(0)->visibleWidgets().first(), Qt::Key_Space);
             }

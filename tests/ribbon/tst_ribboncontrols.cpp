@@ -108,9 +108,8 @@ private Q_SLOTS:
         auto *button = new RibbonButton(&action, &parent);
         auto *box = new RibbonCheckBox(&action, &parent);
         auto *label = new RibbonLabel(&action, &parent);
-        QCOMPARE(button->text(), QString("Zwei\nZeilen"));
-        QCOMPARE(box->text(), QString("ZweiZeilen"));
-        QCOMPARE(label->text(), QString("Zwei<br>Zeilen"));
+        QCOMPARE(QStringList({button->text(), box->text(), label->text()}),
+                 QStringList({"Zwei\nZeilen", "ZweiZeilen", "Zwei<br>Zeilen"}));
         QCOMPARE(label->toolTip(), Ribbon::createTooltip(&action, label));
         QCOMPARE(box->font().pixelSize(), 19);
 
@@ -122,7 +121,8 @@ private Q_SLOTS:
             [&] { action.setText("Neu"); },      [&] { action.setEnabled(false); },
             [&] { action.setVisible(false); },   [&] { action.setIcon(someIcon()); },
             [&] { action.setChecked(true); },    [&] { action.setToolTip("Hilfe"); },
-            [&] { action.setCheckable(false); }, [&] { action.setVisible(true); }};
+            [&] { action.setCheckable(false); }, [&] { action.setVisible(true); },
+            [&] { action.setEnabled(true); },    [&] { action.setCheckable(true); }};
         for (const auto &change : changes) {
             change();
             QCOMPARE(recorder.take(), QStringList({"button", "box", "label"}));
@@ -137,9 +137,6 @@ private Q_SLOTS:
             QVERIFY(!box->isChecked());
             QCOMPARE(button->text() + box->text() + label->text(), QString("NeuNeuNeu"));
         }
-        action.setEnabled(true);
-        action.setCheckable(true);
-        recorder.take();
         // A click toggles the widget, never the action.
         const bool wasChecked = action.isChecked();
         const QSignalSpy triggered(&action, &QAction::triggered);
@@ -147,8 +144,7 @@ private Q_SLOTS:
         box->click();
         QCOMPARE(triggered.count(), 2);
         QCOMPARE(triggered[0][0].toBool(), !wasChecked);
-        QCOMPARE(recorder.take(), QStringList());
-        QCOMPARE(action.isChecked(), wasChecked);
+        QVERIFY(recorder.take().isEmpty() && action.isChecked() == wasChecked);
         QCOMPARE(button->isChecked(), !wasChecked);
         action.setText("Zurück");
         QCOMPARE(button->isChecked(), wasChecked);
@@ -162,7 +158,6 @@ private Q_SLOTS:
             {"Rechnungen undAngebotedieser", {"Rechnungen undAngebotedieser"}}, // blank before the middle
             {"Auftragsbestätigungen ", {"Auftragsbestätigungen "}},             // blank at the end
             {"Auftrags bestaet", {"Auftrags", "bestaet"}},                      // blank just at the middle
-            {"WWWWWWWWWWWW", {"WWWWWWWWWWWW"}},
             {"", {}}};
         RibbonGroupButton button;
         const QFontMetrics metrics = button.fontMetrics();
@@ -180,9 +175,6 @@ private Q_SLOTS:
         button.setOpen(true);
         button.ensurePolished();
         QCOMPARE(button.palette().color(QPalette::ButtonText), QColor(1, 2, 3));
-        QEvent fontChange(QEvent::ApplicationFontChange);
-        QCoreApplication::sendEvent(&button, &fontChange);
-        QVERIFY(button.isOpen());
     }
 
     void picture()
@@ -210,31 +202,27 @@ private Q_SLOTS:
         }
     }
 
-    void unknownTypes()
+    void types()
     {
         Action groupAction("Gruppe");
         RibbonGroup group(&groupAction, false, nullptr);
         RibbonGroupObject object(&groupAction, nullptr);
-        QVERIFY(group.isHidden());
-        for (const int type : {0, 2, 5, -1}) {
-            Action action("x");
-            action.setControlType(Action::CommandType(type));
-            const QByteArray number = QByteArray::number(type);
-            QTest::ignoreMessage(QtDebugMsg, "RibbonGroup::addAction unknown type: " + number);
-            QVERIFY(!group.addAction(&action));
-            QTest::ignoreMessage(QtDebugMsg, "RibbonGroupObject::addAction unknown type: " + number);
-            QVERIFY(!object.addAction(&action));
-        }
+        const QMap<int, QByteArray> classes{
+            {1, "NVO::RibbonButton"}, {3, "NVO::RibbonCheckBox"}, {4, "NVO::RibbonLabel"}};
         Action action("x");
         action.setValueName("Mein_Befehl");
-        const QMap<int, const char *> classes{
-            {1, "NVO::RibbonButton"}, {3, "NVO::RibbonCheckBox"}, {4, "NVO::RibbonLabel"}};
-        for (auto type = classes.begin(); type != classes.end(); ++type) {
-            action.setControlType(Action::CommandType(type.key()));
+        for (const int type : {0, 2, 5, -1, 1, 3, 4}) {
+            action.setControlType(Action::CommandType(type));
+            for (const char *place : {"RibbonGroup", "RibbonGroupObject"}) {
+                if (!classes.contains(type))
+                    QTest::ignoreMessage(QtDebugMsg, QByteArray(place) + "::addAction unknown type: "
+                                                         + QByteArray::number(type));
+            }
             for (const QWidget *control : {group.addAction(&action), object.addAction(&action)}) {
-                const bool plain = type.key() == 4 && object.isAncestorOf(control);
-                QCOMPARE(control->metaObject()->className(), *type);
-                QCOMPARE(control->cursor().shape(), plain ? Qt::ArrowCursor : Qt::PointingHandCursor);
+                QCOMPARE(QByteArray(control ? control->metaObject()->className() : ""), classes.value(type));
+                const bool plain = type == 4 && object.isAncestorOf(control);
+                if (control)
+                    QCOMPARE(control->cursor().shape(), plain ? Qt::ArrowCursor : Qt::PointingHandCursor);
             }
         }
         QCOMPARE(object.getControl("MEIN_befehl").second->action(), &action);
@@ -244,20 +232,21 @@ private Q_SLOTS:
 
     void tooltip()
     {
-        const QString title = "<tr><td style=\"white-space: nowrap\"><b>%1</b></td></tr>";
-        const QString help = "<tr><td style=\"padding-top: 4px;\">%1</td></tr>";
-        const QList<QStringList> rows{
-            {"Neu", "", "", title.arg("Neu") + help.arg("Neu")},
-            {"A<br>B\nC", "<i>H</i>", "", title.arg("A B C") + help.arg("<i>H</i>")},
-            {"Plus+M", "H", "Ctrl+Shift+N", title.arg("Plus +M (Ctrl+Shift+N)") + help.arg("H")},
-            {"+A +B", "H", "", title.arg("+A +B") + help.arg("H")},
-            {"", "H", "F5", title.arg(" (F5)") + help.arg("H")}};
+        // Text, help, shortcut, and the two rows of the table
+        const QList<QStringList> rows{{"Neu", "", "", "Neu", "Neu"},
+                                      {"A<br>B\nC", "<i>H</i>", "", "A B C", "<i>H</i>"},
+                                      {"Plus+M", "H", "Ctrl+Shift+N", "Plus +M (Ctrl+Shift+N)", "H"},
+                                      {"+A +B", "H", "", "+A +B", "H"},
+                                      {"", "H", "F5", " (F5)", "H"}};
         for (const QStringList &row : rows) {
             Action action(row[0]);
             action.setToolTip(row[1]);
             action.setShortcut(QKeySequence(row[2]));
             action.setValueName("name");
-            QCOMPARE(Ribbon::createTooltip(&action, nullptr), "<table>" + row[3] + "</table>");
+            QCOMPARE(Ribbon::createTooltip(&action, nullptr),
+                     "<table><tr><td style=\"white-space: nowrap\"><b>" + row[3]
+                         + "</b></td></tr><tr><td style=\"padding-top: 4px;\">" + row[4]
+                         + "</td></tr></table>");
         }
     }
 

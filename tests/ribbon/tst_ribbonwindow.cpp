@@ -101,15 +101,6 @@ private Q_SLOTS:
         }
     }
 
-    void escapeClosesPopup()
-    {
-        const QPointer<RibbonGroup> popup = m_window->openPopup();
-        QVERIFY(popup);
-        m_window->press(Qt::Key_Escape);
-        QTRY_VERIFY(!popup && !m_window->isOpen());
-        QTRY_VERIFY(m_window->button->hasFocus());
-    }
-
     void clickOutsideClosesPopup()
     {
         // The button is outside, too, and does not open the popup again.
@@ -137,15 +128,15 @@ private Q_SLOTS:
     void walkReturnsFocus()
     {
         m_window->ribbon->toggleKeyfocus();
-        m_window->press(Qt::Key_Down);
-        QCOMPARE(QApplication::focusWidget(), m_window->lone);
-        m_window->press(Qt::Key_Right);
-        QCOMPARE(QApplication::focusWidget(), m_window->button);
+        for (const QWidget *next : {m_window->lone, m_window->button}) {
+            m_window->press(next == m_window->lone ? Qt::Key_Down : Qt::Key_Right);
+            QCOMPARE(QApplication::focusWidget(), next);
+        }
         m_window->press(Qt::Key_Space);
         const QPointer<RibbonGroup> popup = m_window->popup();
         QVERIFY(popup);
         m_window->press(Qt::Key_Escape);
-        QTRY_VERIFY(!popup && m_window->button->hasFocus());
+        QTRY_VERIFY(!popup && m_window->button->hasFocus() && !m_window->isOpen());
         m_window->ribbon->slotTriggerAction();
         QVERIFY(m_window->edit->hasFocus());
         QCOMPARE(m_window->ribbon->tabBar()->property("style"), QVariant("default"));
