@@ -38,5 +38,5 @@ need_packages() {
     rm -f "$log"
 }
 
-build_packages=(g++ cmake ninja-build qtbase5-dev qtbase5-private-dev libqt5svg5-dev fonts-dejavu-core)
-test_packages=("${build_packages[@]}" libbenchmark-dev pkg-config xvfb xauth openbox)
+build_packages=(g++ cmake ninja-build qtbase5-dev qtbase5-private-dev libqt5svg5-dev libx11-dev fonts-dejavu-core)
+test_packages=("${build_packages[@]}" libbenchmark-dev pkg-config xvfb xauth openbox xdotool)

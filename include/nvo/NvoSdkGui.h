@@ -4,10 +4,14 @@
 
 #include <nvo/AbstractButton.h>
 #include <nvo/Action.h>
+#include <nvo/BaseDateEdit.h>
+#include <nvo/BaseEdit.h>
 #include <nvo/Button.h>
+#include <nvo/CapsLockEventFilter.h>
 #include <nvo/CheckBox.h>
 #include <nvo/ComboBox.h>
 #include <nvo/Css.h>
+#include <nvo/DateEdit.h>
 #include <nvo/Dialog.h>
 #include <nvo/DialogButton.h>
 #include <nvo/Element.h>
@@ -20,10 +24,15 @@
 #include <nvo/Icon.h>
 #include <nvo/IconButton.h>
 #include <nvo/InfoBox.h>
+#include <nvo/KeyEventFilter.h>
+#include <nvo/KeyState.h>
 #include <nvo/Label.h>
+#include <nvo/LineEdit.h>
 #include <nvo/Link.h>
 #include <nvo/MessageBox.h>
+#include <nvo/NumericEdit.h>
 #include <nvo/Palette.h>
+#include <nvo/PeriodEdit.h>
 #include <nvo/Pixmap.h>
 #include <nvo/Product.h>
 #include <nvo/Ribbon.h>
@@ -44,3 +53,4 @@
 #include <nvo/SelectionMessageBoxBase.h>
 #include <nvo/Separator.h>
 #include <nvo/ShadowSimple.h>
+#include <nvo/TimeEdit.h>
