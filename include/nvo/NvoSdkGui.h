@@ -16,6 +16,7 @@
 #include <nvo/DialogButton.h>
 #include <nvo/Element.h>
 #include <nvo/Export.h>
+#include <nvo/FlowLayout.h>
 #include <nvo/Flyout.h>
 #include <nvo/Font.h>
 #include <nvo/GraphicsEffect.h>
@@ -35,6 +36,8 @@
 #include <nvo/PeriodEdit.h>
 #include <nvo/Pixmap.h>
 #include <nvo/Product.h>
+#include <nvo/RecyclingList.h>
+#include <nvo/RecyclingListAdapter.h>
 #include <nvo/Ribbon.h>
 #include <nvo/RibbonButton.h>
 #include <nvo/RibbonCheckBox.h>

@@ -1,0 +1,5 @@
+#include <nvo/RecyclingListAdapter.h>
+
+RecyclingListAdapter::RecyclingListAdapter() = default;
+
+RecyclingListAdapter::~RecyclingListAdapter() = default;
