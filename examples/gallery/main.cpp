@@ -4,6 +4,7 @@
 #include "Screenshots.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QTextStream>
 
 namespace {
@@ -53,6 +54,8 @@ int main(int argc, char *argv[])
     // The sheets build on one style, so that the application looks alike on every desktop.
     QApplication::setStyle(QStringLiteral("Fusion"));
     const QApplication application(argc, argv);
+    // Amounts and calendars are German, whatever the desktop speaks.
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     QApplication::setApplicationName(QStringLiteral("nvo_gallery"));
     QApplication::setApplicationDisplayName(QStringLiteral("NvoSdkGui Galerie"));
 

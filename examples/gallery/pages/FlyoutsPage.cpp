@@ -1,13 +1,17 @@
 #include "pages/FlyoutsPage.h"
 
+#include "pages/FlyoutParts.h"
 #include "pages/PageSupport.h"
 
 #include <nvo/Button.h>
 #include <nvo/CheckBox.h>
 #include <nvo/ComboBox.h>
+#include <nvo/DateEdit.h>
 #include <nvo/Flyout.h>
 #include <nvo/Label.h>
+#include <nvo/LineEdit.h>
 #include <nvo/Link.h>
+#include <nvo/NumericEdit.h>
 #include <nvo/ScrollArea.h>
 
 #include <QApplication>
@@ -15,7 +19,6 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMetaEnum>
 #include <QMouseEvent>
 #include <QScreen>
@@ -37,18 +40,16 @@ constexpr int errorTextWidth = 210;
 constexpr int textWidth = 230;
 constexpr int hintTextWidth = 270;
 constexpr int screenEdge = 4;
-constexpr QMargins contentMargins(14, 2, 0, 2); // a flyout leaves the rest on the right and below
-constexpr QMargins crossMargins(14, 2, 10, 2);  // the text ends before the cross
 constexpr QMargins longMargins(14, 14, 10, 14); // of what may have to shrink
 constexpr int crossRoom = 10;
 constexpr int fieldWidth = 150;
-constexpr int fieldHeight = 29;
 constexpr int fieldLeft = 150;
 constexpr int playgroundHeight = 300;
 constexpr QSize targetSize(120, 52); // some of it lies below the flyout
 constexpr int dragStep = 10;
 constexpr int targetWindowMargin = 12;
 constexpr int months = 18;
+constexpr int maximumAmount = 9999999;
 
 constexpr std::array<Flyout::PointerPosition, 13> positions{
     Flyout::TopLeft,     Flyout::TopMiddle,   Flyout::TopRight,    Flyout::BottomLeft, Flyout::BottomMiddle,
@@ -59,50 +60,6 @@ QString keyOf(Flyout::PointerPositions position)
 {
     return QString::fromLatin1(QMetaEnum::fromType<Flyout::PointerPosition>().valueToKey(int(position)));
 }
-
-/**
- * A flyout that stands in a page, to be looked at: it takes neither the mouse nor the keyboard. For it the
- * upper left corner of its stage is that of the screen.
- */
-class FlyoutPicture : public Flyout
-{
-public:
-    FlyoutPicture(const QRect &target, FlyoutFlags flags, QWidget *stage)
-        : Flyout(nullptr, target.translated(screenOrigin()), flags | Sticky, makeScreen(stage))
-    {
-        setWindowFlags(Qt::Widget);
-        setAttribute(Qt::WA_TransparentForMouseEvents);
-    }
-
-    void present(PointerPosition position, FlyoutStyle style, QWidget *content)
-    {
-        const QList<QWidget *> widgets = content->findChildren<QWidget *>();
-        for (QWidget *widget : widgets)
-            widget->setFocusPolicy(Qt::NoFocus);
-        setFlyoutStyle(style);
-        setPointerPosition(position);
-        setContent(content);
-        show();
-    }
-
-protected:
-    void showEvent(QShowEvent *event) override
-    {
-        Flyout::showEvent(event);
-        setPointerPosition(pointerPosition()); // the sizes are right now
-    }
-
-private:
-    static QPoint screenOrigin() { return QGuiApplication::primaryScreen()->availableGeometry().topLeft(); }
-
-    static QWidget *makeScreen(QWidget *stage)
-    {
-        auto *screen = new QWidget(stage);
-        screen->setAttribute(Qt::WA_TransparentForMouseEvents);
-        screen->setGeometry(QRect(-screenOrigin(), stage->rect().bottomRight()));
-        return screen;
-    }
-};
 
 /** A widget that can be dragged with the mouse and with the arrow keys, in its parent or together with its
  * window.
@@ -172,24 +129,6 @@ bool isArrow(int key)
     return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
 }
 
-/** An empty content with a column for what stands in it. */
-QVBoxLayout *makeContent()
-{
-    auto *column = new QVBoxLayout(new QWidget);
-    column->setContentsMargins(contentMargins);
-    column->setSpacing(10);
-    return column;
-}
-
-NVO::Label *addText(QVBoxLayout *column, const QString &html, int width)
-{
-    NVO::Label *label = makeLabel(html);
-    label->setWordWrap(true);
-    label->setFixedWidth(width);
-    column->addWidget(label);
-    return label;
-}
-
 NVO::Button *makeButton(const QString &text, NVO::Button::ButtonStyle style = NVO::Button::Normal)
 {
     auto *button = new NVO::Button;
@@ -206,35 +145,41 @@ NVO::Link *makeLink(const QString &text, NVO::Link::LinkStyle style)
     return link;
 }
 
-QLineEdit *makeField(const QString &name, const QString &text, bool wrong)
+/** \a field with its name, at a fixed place of a stage, to be looked at; returns where the field is. */
+QRect addField(QWidget *stage, int row, const QString &name, QWidget *field)
 {
-    auto *field = new QLineEdit(text);
-    field->setAccessibleName(name);
-    field->setProperty("galleryField", wrong ? QStringLiteral("error") : QStringLiteral("normal"));
-    return field;
-}
-
-/** Repaints a field for what it is now. */
-void setWrong(QLineEdit *field, bool wrong)
-{
-    field->setProperty("galleryField", wrong ? QStringLiteral("error") : QStringLiteral("normal"));
-    field->style()->unpolish(field);
-    field->style()->polish(field);
-}
-
-/** A field with its name, at a fixed place of a stage; returns where the field is. */
-QRect addField(QWidget *stage, int row, const QString &name, const QString &text, bool wrong = false)
-{
-    const QRect place(fieldLeft, 24 + row * 44, fieldWidth, fieldHeight);
+    const QRect place(fieldLeft, 24 + row * 44, fieldWidth, field->sizeHint().height());
     NVO::Label *label = makeLabel(name);
     label->setParent(stage);
-    label->setGeometry(20, place.top(), fieldLeft - 28, fieldHeight);
-    QLineEdit *field = makeField(name, text, wrong);
+    label->setGeometry(20, place.top(), fieldLeft - 28, place.height());
+    field->setAccessibleName(name);
     field->setParent(stage);
     field->setFocusPolicy(Qt::NoFocus);
     field->setAttribute(Qt::WA_TransparentForMouseEvents);
     field->setGeometry(place);
     return place;
+}
+
+NVO::LineEdit *makeTextField(const QString &text)
+{
+    auto *field = new NVO::LineEdit;
+    field->setText(text);
+    return field;
+}
+
+NVO::NumericEdit *makeAmountField(double amount)
+{
+    auto *field = new NVO::NumericEdit;
+    field->setRange(maximumAmount, 2, QStringLiteral("€"), NVO::NumericEdit::NoFlag);
+    field->setValue(amount);
+    return field;
+}
+
+NVO::DateEdit *makeDateField(const QDate &date)
+{
+    auto *field = new NVO::DateEdit;
+    field->setDate(date);
+    return field;
 }
 
 QFrame *makeStage(const QSize &size)
@@ -310,10 +255,10 @@ QWidget *makePlacement(Flyout::PointerPosition position, const QPoint &mark, con
     QFrame *stage = makeStage(placementStage);
     const QRect target = addMark(stage, mark);
     auto *flyout = new FlyoutPicture(target, notice.flag, stage);
-    QVBoxLayout *column = makeContent();
-    addText(column, text, placementTextWidth)->setMinimumHeight(placementTextHeight);
+    QVBoxLayout *column = makeFlyoutContent();
+    addFlyoutText(column, text, placementTextWidth)->setMinimumHeight(placementTextHeight);
     if (notice.flag == Flyout::CloseButton)
-        column->setContentsMargins(crossMargins);
+        column->setContentsMargins(flyoutCrossMargins);
     flyout->present(position, notice.style, column->parentWidget());
     return stage;
 }
@@ -335,12 +280,12 @@ QWidget *makeMonths(Flyout *flyout)
     list->setSpacing(12);
     for (int month = 1; month <= months; ++month) {
         const QDate first = QDate(2024, 9, 1).addMonths(month);
-        addText(list,
-                QStringLiteral("%1 bis %2<br>am %3 geprüft")
-                    .arg(first.toString(QStringLiteral("dd.MM.yyyy")),
-                         first.addMonths(1).addDays(-1).toString(QStringLiteral("dd.MM.yyyy")),
-                         first.addMonths(1).addDays(9).toString(QStringLiteral("dd.MM.yyyy"))),
-                textWidth);
+        addFlyoutText(list,
+                      QStringLiteral("%1 bis %2<br>am %3 geprüft")
+                          .arg(first.toString(QStringLiteral("dd.MM.yyyy")),
+                               first.addMonths(1).addDays(-1).toString(QStringLiteral("dd.MM.yyyy")),
+                               first.addMonths(1).addDays(9).toString(QStringLiteral("dd.MM.yyyy"))),
+                      textWidth);
     }
     auto *area = new NVO::ScrollArea(flyout);
     area->setWidget(rows);
@@ -353,16 +298,19 @@ QWidget *makeMonths(Flyout *flyout)
 QWidget *makeErrorExample()
 {
     QFrame *stage = makeStage(exampleStage);
-    addField(stage, 0, QStringLiteral("Belegnummer"), QStringLiteral("2026-0417"));
-    addField(stage, 1, QStringLiteral("Betrag"), QStringLiteral("1.190,00 €"));
-    const QRect date = addField(stage, 2, QStringLiteral("Belegdatum"), QStringLiteral("31.04.2026"), true);
+    addField(stage, 0, QStringLiteral("Belegnummer"), makeTextField(QStringLiteral("2026-0417")));
+    addField(stage, 1, QStringLiteral("Betrag"), makeAmountField(1190));
+    NVO::DateEdit *field = makeDateField(QDate(2026, 3, 31));
+    field->setLineEditStyle(NVO::DateEdit::Error);
+    const QRect date = addField(stage, 2, QStringLiteral("Belegdatum"), field);
 
     auto *flyout = new FlyoutPicture(date, Flyout::NoFlag, stage);
-    QVBoxLayout *column = makeContent();
-    addText(column,
-            QStringLiteral("<b>Diesen Tag gibt es nicht.</b><br>Bitte geben Sie ein Datum im Zeitraum "
-                           "01.04.2026 bis 30.04.2026 ein."),
-            errorTextWidth);
+    QVBoxLayout *column = makeFlyoutContent();
+    addFlyoutText(
+        column,
+        QStringLiteral("<b>Dieser Monat ist festgeschrieben.</b><br>Bitte geben Sie ein Datum im Zeitraum "
+                       "01.04.2026 bis 30.04.2026 ein."),
+        errorTextWidth);
     flyout->present(Flyout::TopLeft, Flyout::Error, column->parentWidget());
     return stage;
 }
@@ -371,20 +319,21 @@ QWidget *makeErrorExample()
 QWidget *makeHintExample()
 {
     QFrame *stage = makeStage(exampleStage);
-    const QRect key =
-        addField(stage, 0, QStringLiteral("Steuerschlüssel"), QStringLiteral("9 – Vorsteuer 19 %"));
+    const QRect key = addField(stage, 0, QStringLiteral("Steuerschlüssel"),
+                               makeTextField(QStringLiteral("9 – Vorsteuer 19 %")));
 
     auto *flyout = new FlyoutPicture(key, Flyout::CloseButton, stage);
-    QVBoxLayout *column = makeContent();
+    QVBoxLayout *column = makeFlyoutContent();
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     auto *body = new QVBoxLayout;
     body->setContentsMargins(14, 12, 0, 12);
     body->setSpacing(10);
-    NVO::Label *text = addText(body,
-                               QStringLiteral("<b>Wurde im Ausland bestellt?</b><br>Dann gilt Schlüssel 94, "
-                                              "denn der Empfänger schuldet die Steuer."),
-                               hintTextWidth);
+    NVO::Label *text =
+        addFlyoutText(body,
+                      QStringLiteral("<b>Wurde im Ausland bestellt?</b><br>Dann gilt Schlüssel 94, "
+                                     "denn der Empfänger schuldet die Steuer."),
+                      hintTextWidth);
     text->setContentsMargins(0, 0, crossRoom, 0);
     text->setMaximumWidth(QWIDGETSIZE_MAX); // the foot may be wider
     auto *choices = new QHBoxLayout;
@@ -432,13 +381,14 @@ void FlyoutsPage::addExamples()
 
 void FlyoutsPage::addTrialForm()
 {
-    m_date = makeField(QStringLiteral("Belegdatum"), QStringLiteral("12.05.2026"), false);
+    m_date = makeDateField(QDate(2026, 5, 12));
+    m_date->setAccessibleName(QStringLiteral("Belegdatum"));
     m_date->setFixedWidth(fieldWidth);
     NVO::Button *button = makeButton(QStringLiteral("Buchen"), NVO::Button::Primary);
     connect(button, &QAbstractButton::clicked, this, &FlyoutsPage::post);
     connect(m_date, &QLineEdit::returnPressed, this, &FlyoutsPage::post);
     connect(m_date, &QLineEdit::textEdited, this, [this] {
-        setWrong(m_date, false);
+        m_date->setLineEditStyle(NVO::DateEdit::Normal);
         if (m_dateError)
             m_dateError->hide();
     });
@@ -458,9 +408,9 @@ void FlyoutsPage::addTrialForm()
 void FlyoutsPage::post()
 {
     m_posted->clear();
-    const QDate date = QDate::fromString(m_date->text().trimmed(), QStringLiteral("d.M.yyyy"));
+    const QDate date = m_date->date();
     const bool wrong = date.year() != 2026 || date.month() != 4;
-    setWrong(m_date, wrong);
+    m_date->setLineEditStyle(wrong ? NVO::DateEdit::Error : NVO::DateEdit::Normal);
     if (!wrong) {
         if (m_dateError)
             m_dateError->hide();
@@ -470,12 +420,12 @@ void FlyoutsPage::post()
     if (!m_dateError) {
         m_dateError = new Flyout(m_date, Flyout::Sticky | Flyout::CloseButton, this);
         m_dateError->setFlyoutStyle(Flyout::Error);
-        QVBoxLayout *column = makeContent();
-        column->setContentsMargins(crossMargins);
-        addText(column,
-                QStringLiteral("<b>Bitte geben Sie ein Datum im Zeitraum ein.</b><br>"
-                               "Der Zeitraum reicht vom 01.04.2026 bis zum 30.04.2026."),
-                textWidth);
+        QVBoxLayout *column = makeFlyoutContent();
+        column->setContentsMargins(flyoutCrossMargins);
+        addFlyoutText(column,
+                      QStringLiteral("<b>Bitte geben Sie ein Datum im Zeitraum ein.</b><br>"
+                                     "Der Zeitraum reicht vom 01.04.2026 bis zum 30.04.2026."),
+                      textWidth);
         m_dateError->setContent(column->parentWidget());
     }
     m_dateError->show();
@@ -592,17 +542,17 @@ void FlyoutsPage::makeFlyout()
 
 void FlyoutsPage::fillFlyout()
 {
-    QVBoxLayout *column = makeContent();
-    column->setContentsMargins(m_closeButton->isChecked() ? crossMargins : contentMargins);
+    QVBoxLayout *column = makeFlyoutContent();
+    column->setContentsMargins(m_closeButton->isChecked() ? flyoutCrossMargins : flyoutMargins);
     if (m_long->isChecked()) {
         column->setContentsMargins(longMargins);
-        addText(column, QStringLiteral("<b>Diese Monate sind festgeschrieben.</b>"), textWidth);
+        addFlyoutText(column, QStringLiteral("<b>Diese Monate sind festgeschrieben.</b>"), textWidth);
         column->addWidget(makeMonths(m_flyout), 1);
     } else {
-        addText(column,
-                QStringLiteral("<b>Bitte geben Sie ein Datum im Zeitraum ein.</b><br>"
-                               "Der Zeitraum reicht vom 01.04.2026 bis zum 30.04.2026."),
-                textWidth);
+        addFlyoutText(column,
+                      QStringLiteral("<b>Bitte geben Sie ein Datum im Zeitraum ein.</b><br>"
+                                     "Der Zeitraum reicht vom 01.04.2026 bis zum 30.04.2026."),
+                      textWidth);
     }
     m_flyout->setContent(column->parentWidget());
 }

@@ -5,12 +5,12 @@
 #include <QPointer>
 
 class QFrame;
-class QLineEdit;
 
 namespace NVO {
 class Button;
 class CheckBox;
 class ComboBox;
+class DateEdit;
 class Flyout;
 class Label;
 } // namespace NVO
@@ -43,7 +43,7 @@ private:
     void setDetached(bool detached);
     void describe();
 
-    QLineEdit *m_date = nullptr;
+    NVO::DateEdit *m_date = nullptr;
     NVO::Label *m_posted = nullptr;
     QPointer<NVO::Flyout> m_dateError;
 
