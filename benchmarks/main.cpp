@@ -44,6 +44,8 @@ constexpr Goal goals[] = {
     {"effects/sunken/1200x800", "floor", 2.7},
     {"button/thousand", "push_button", 0.75},
     {"button/memory", "push_button", 1.05},
+    {"accordion/frame/20_rows", "maximum_height", 1},
+    {"accordion/frame/200_rows", "maximum_height", 0.8},
     {"dateedit/focus", "line_edit", 1.2},
     {"dateedit/focus_empty", "line_edit", 1.5},
     {"dialogs/message_box", "q_message_box", 1.3},

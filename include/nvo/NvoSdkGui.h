@@ -3,6 +3,11 @@
 // Every public class of the library.
 
 #include <nvo/AbstractButton.h>
+#include <nvo/Accordion.h>
+#include <nvo/AccordionBoxIndicator.h>
+#include <nvo/AccordionIndicator.h>
+#include <nvo/AccordionPart.h>
+#include <nvo/AccordionSimpleHeader.h>
 #include <nvo/Action.h>
 #include <nvo/BaseDateEdit.h>
 #include <nvo/BaseEdit.h>

@@ -118,7 +118,9 @@ private Q_SLOTS:
     void sheets()
     {
         const QRegularExpression tokens("\\b((BASE)?COLOR|GRADIENT)_\\w+|\\b(SEMI)?(BOLD|LIGHT)\\b");
-        for (const NVO::Element element : {NVO::ElementButton,
+        for (const NVO::Element element : {NVO::ElementAccordion,
+                                           NVO::ElementAccordionBoxIndicator,
+                                           NVO::ElementButton,
                                            NVO::ElementCheckBox,
                                            NVO::ElementComboBox,
                                            NVO::ElementDateEdit,
