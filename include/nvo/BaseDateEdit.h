@@ -18,8 +18,9 @@ namespace NVO {
  * A field has two faces. With the focus, or with a complete text, an input mask shows where digits go. An
  * empty field without the focus shows the form of its dates in grey, such as "dd.mm.jjjj". The face changes
  * when the focus comes or goes and with flags and fixed year, and a text that is no date then, or none any
- * more, is cleared. Parts may be shorter than their places, so that "5.3.2019" is complete, and a year of two
- * digits is one of the first century. Days up to 39, months up to 19 and years up to 2999 can be typed.
+ * more, is cleared. The cursor begins at the first place then; only a menu leaves a date with its selection.
+ * Parts may be shorter than their places, so that "5.3.2019" is complete, and a year of two digits is one of
+ * the first century. Days up to 39, months up to 19 and years up to 2999 can be typed.
  *
  * Up and Down change the number at the cursor by 1, PageUp and PageDown by 10, within those bounds and
  * without a carry to its neighbour. The four keys never reach the parent. They do nothing while a modifier is
@@ -65,8 +66,9 @@ public:
 
 public Q_SLOTS:
     /**
-     * Empties the field. An empty one stays as it is and emits nothing, so that a slot of textChanged() may
-     * call this. The fixed year is not cleared, and the face stays.
+     * Empties the field and takes the cursor to its start. Where there is no text to clear, none is reported
+     * as changed, so that a slot of textChanged() may call this. The fixed year is not cleared, and the face
+     * stays.
      */
     void clear();
 
@@ -101,6 +103,7 @@ private:
     virtual QString placeholderFor(Flags flags, int fixedYear) = 0;
     virtual QValidator::State validate(const QString &text, Flags flags, int fixedYear) = 0;
 
+    void followFocus(Qt::FocusReason reason);
     bool isEmpty() const;
     bool isComplete();
     void clearUnlessComplete();

@@ -24,8 +24,8 @@ namespace NVO {
  * Value, signals, stepping, undo and what assistive tools are told are those of QDoubleSpinBox:
  * valueChanged() comes with each accepted key unless keyboard tracking is off. A field that can only be read
  * takes no key of those above. The look comes from the sheet of ElementNumericEdit, which selects on the
- * dynamic property "style", the key of the NumericEditStyle; if Product::variant is 0 at construction, the
- * field has a shadow that makes it look sunken.
+ * dynamic property "style", the key of the NumericEditStyle, and on "readOnly"; if Product::variant is 0 at
+ * construction, the field has a shadow that makes it look sunken.
  */
 class NVO_EXPORT NumericEdit : public QDoubleSpinBox
 {
@@ -89,6 +89,7 @@ private:
     void initStyleSheet();
     void updateSuffix(bool focused);
     void stepOverSeparator(int key);
+    bool isSeparator(int index) const;
     bool readNumber();
     bool pressMinus();
     void pressPlus();

@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
+#include <array>
+
 namespace NVO {
 
 namespace {
@@ -57,12 +59,6 @@ int deltaOf(int key)
     }
 }
 
-/** Whether the focus only makes way for a menu or another window, or returns from there. */
-bool isPassing(const QFocusEvent &event)
-{
-    return event.reason() == Qt::PopupFocusReason || event.reason() == Qt::ActiveWindowFocusReason;
-}
-
 } // namespace
 
 BaseDateEdit::BaseDateEdit(Element element)
@@ -95,7 +91,7 @@ void BaseDateEdit::clear()
 {
     // With a mask Qt reports a change even if there was nothing to clear.
     if (isEmpty())
-        deselect();
+        home(false);
     else
         BaseEdit::clear();
 }
@@ -131,28 +127,27 @@ QValidator::State BaseDateEdit::validatePart(const QString &text, Flags flags, i
         int maximum;
         int value;
     };
-    Field fields[] = {{HideDay, maximumDay, 1},
-                      {HideMonth, maximumMonth, 1},
-                      {HideYear, maximumYear, fixedYear > 0 ? fixedYear : yearOfDatesWithout}};
+    std::array fields = {Field{HideDay, maximumDay, 1}, Field{HideMonth, maximumMonth, 1},
+                         Field{HideYear, maximumYear, fixedYear > 0 ? fixedYear : yearOfDatesWithout}};
 
     const QString typed = QString(text).remove(QLatin1Char('_'));
     const QVector<QStringRef> parts = typed.splitRef(separatorFor(flags));
-    auto part = parts.begin();
+    int next = 0;
     bool complete = true;
     for (Field &field : fields) {
         if (flags.testFlag(field.hidden))
             continue;
-        if (part == parts.end())
+        if (next == parts.size())
             return QValidator::Invalid;
-        if (part->isEmpty()) {
+        const QStringRef &part = parts[next++];
+        if (part.isEmpty()) {
             complete = false;
         } else {
             bool isNumber = false;
-            field.value = part->toInt(&isNumber);
+            field.value = part.toInt(&isNumber);
             if (!isNumber || field.value < 0 || field.value > field.maximum)
                 return QValidator::Invalid;
         }
-        ++part;
     }
     const auto &[day, month, year] = fields;
     if (fixedYear > 0 && year.value != fixedYear)
@@ -199,15 +194,21 @@ void BaseDateEdit::keyReleaseEvent(QKeyEvent *event)
 void BaseDateEdit::focusInEvent(QFocusEvent *event)
 {
     BaseEdit::focusInEvent(event);
-    updateMaskOrPlaceholder();
-    if (!isPassing(*event))
-        home(false);
+    followFocus(event->reason());
 }
 
 void BaseDateEdit::focusOutEvent(QFocusEvent *event)
 {
-    updateMaskOrPlaceholder();
+    followFocus(event->reason());
     BaseEdit::focusOutEvent(event);
+}
+
+void BaseDateEdit::followFocus(Qt::FocusReason reason)
+{
+    updateMaskOrPlaceholder();
+    // The commands of a menu are for what is selected.
+    if (reason != Qt::PopupFocusReason)
+        home(false);
 }
 
 bool BaseDateEdit::isEmpty() const

@@ -5,16 +5,13 @@ namespace NVO::DateText {
 QString blank(const QString &mask)
 {
     QString text;
-    bool escaped = false;
-    for (const QChar character : mask) {
-        const bool isPlace = character == QLatin1Char('0') || character == QLatin1Char('9');
-        if (escaped)
-            text += character;
-        else if (character == QLatin1Char(';'))
-            break;
-        else if (character != QLatin1Char('\\'))
-            text += isPlace ? QLatin1Char('_') : character;
-        escaped = !escaped && character == QLatin1Char('\\');
+    for (int i = 0; i < mask.size() && mask[i] != QLatin1Char(';'); ++i) {
+        if (mask[i] == QLatin1Char('\\'))
+            text += mask.midRef(++i, 1);
+        else if (mask[i] == QLatin1Char('0') || mask[i] == QLatin1Char('9'))
+            text += QLatin1Char('_');
+        else
+            text += mask[i];
     }
     return text;
 }

@@ -1,7 +1,5 @@
 #include <nvo/LineEdit.h>
 
-#include <QPointer>
-
 namespace NVO {
 
 namespace {
@@ -45,10 +43,8 @@ int LineEdit::selectionEndOrMinusOne() const
 /** Lets the selection from \a start end at \a max. */
 void LineEdit::cutSelection(int start, int max)
 {
-    const QPointer<LineEdit> alive(this);
     setSelection(0, 0);
-    if (alive)
-        setSelection(start, max - start);
+    setSelection(start, max - start);
 }
 
 void LineEdit::parseInputMask(const QString &mask)
@@ -77,11 +73,9 @@ void LineEdit::slotCursorPositionChanged(int, int newPos)
     const int max = maxCursorPosition();
     if (newPos <= max || selectionEndOrMinusOne() == newPos)
         return;
-    const QPointer<LineEdit> alive(this);
     m_cursorGuard = true;
     setCursorPosition(max);
-    if (alive)
-        m_cursorGuard = false;
+    m_cursorGuard = false;
 }
 
 void LineEdit::slotSelectionChanged()
@@ -91,11 +85,9 @@ void LineEdit::slotSelectionChanged()
     const int max = maxCursorPosition();
     if (selectionEndOrMinusOne() <= max)
         return;
-    const QPointer<LineEdit> alive(this);
     m_selectionGuard = true;
     cutSelection(selectionStart(), max);
-    if (alive)
-        m_selectionGuard = false;
+    m_selectionGuard = false;
 }
 
 void LineEdit::slotTextChanged()

@@ -63,13 +63,13 @@ QSize NumericEdit::sizeHint() const
 
 QValidator::State NumericEdit::validate(QString &input, int &pos) const
 {
-    NumericFormat format(locale());
-    format.prefix = prefix();
-    format.suffix = suffix();
-    format.hasFraction = decimals() != 0;
-    return validateNumericText(input, pos, format, [this](QString &text, int &cursor) {
-        return QDoubleSpinBox::validate(text, cursor);
-    });
+    const QLocale locale = this->locale();
+    const NumericFormat format{prefix(), suffix(), locale.decimalPoint(), locale.groupSeparator(),
+                               decimals() != 0};
+    completeNumber(input, pos, format);
+    const QValidator::State state = QDoubleSpinBox::validate(input, pos);
+    groupNumber(input, pos, format);
+    return state;
 }
 
 void NumericEdit::keyPressEvent(QKeyEvent *event)
@@ -137,6 +137,8 @@ void NumericEdit::changeEvent(QEvent *event)
         QString other;
         int pos = 0;
         QDoubleSpinBox::validate(other, pos);
+    } else if (event->type() == QEvent::ReadOnlyChange) {
+        StyleSupport::repolish(this);
     }
     QDoubleSpinBox::changeEvent(event);
 }
@@ -165,23 +167,22 @@ void NumericEdit::updateSuffix(bool focused)
 /** Lets Backspace and Delete at a separator act on the digit next to it. */
 void NumericEdit::stepOverSeparator(int key)
 {
-    if ((key != Qt::Key_Backspace && key != Qt::Key_Delete) || lineEdit()->hasSelectedText())
+    if (lineEdit()->hasSelectedText())
         return;
-    const NumericFormat format(locale());
-    const QString text = lineEdit()->text();
     const int cursor = lineEdit()->cursorPosition();
-    const int start = prefix().size();
-    const int end = text.size() - suffix().size();
-    if (cursor < start || cursor > end)
-        return; // in the unit there are no separators, whatever its letters
-    const QStringRef before = text.midRef(start, cursor - start);
-    const QStringRef behind = text.midRef(cursor, end - cursor);
-    for (const QString &separator : {format.decimalPoint, format.groupSeparator}) {
-        if (key == Qt::Key_Backspace && before.endsWith(separator))
-            lineEdit()->setCursorPosition(cursor - separator.size());
-        else if (key == Qt::Key_Delete && behind.startsWith(separator))
-            lineEdit()->setCursorPosition(cursor + separator.size());
-    }
+    if (key == Qt::Key_Backspace && isSeparator(cursor - 1))
+        lineEdit()->setCursorPosition(cursor - 1);
+    else if (key == Qt::Key_Delete && isSeparator(cursor))
+        lineEdit()->setCursorPosition(cursor + 1);
+}
+
+/** Whether a separator of the number stands at \a index; in the unit there are none, whatever its letters. */
+bool NumericEdit::isSeparator(int index) const
+{
+    const QString text = lineEdit()->text();
+    if (index < prefix().size() || index >= text.size() - suffix().size())
+        return false;
+    return text.at(index) == locale().decimalPoint() || text.at(index) == locale().groupSeparator();
 }
 
 /** Brings value() up to date where the spin box reads its text late; returns whether the field lives on. */
@@ -196,14 +197,13 @@ bool NumericEdit::readNumber()
 /** Makes the number negative if it may be; returns whether the key goes on to the spin box. */
 bool NumericEdit::pressMinus()
 {
-    m_swallowMinusRelease = false;
-    if (value() > 0 && minimum() < 0) {
-        const QPointer<NumericEdit> alive(this);
-        flipSign(+1);
-        return alive;
-    }
-    m_swallowMinusRelease = !(value() < 0);
-    return !m_swallowMinusRelease;
+    const bool flips = value() > 0 && minimum() < 0;
+    m_swallowMinusRelease = !flips && !(value() < 0);
+    if (!flips)
+        return !m_swallowMinusRelease;
+    const QPointer<NumericEdit> alive(this);
+    flipSign(+1);
+    return alive;
 }
 
 void NumericEdit::pressPlus()
@@ -234,10 +234,9 @@ void NumericEdit::passMinusOn(QKeyEvent *event)
 
 void NumericEdit::goBehindDecimalPoint()
 {
-    const QString point(locale().decimalPoint());
-    const int index = lineEdit()->text().indexOf(point, prefix().size());
-    if (index >= 0)
-        lineEdit()->setCursorPosition(index + point.size());
+    const int point = lineEdit()->text().indexOf(locale().decimalPoint(), prefix().size());
+    if (point >= 0)
+        lineEdit()->setCursorPosition(point + 1);
 }
 
 } // namespace NVO

@@ -1,7 +1,5 @@
 #include "editors/NumericText.h"
 
-#include <QLocale>
-
 namespace NVO {
 
 namespace {
@@ -9,44 +7,8 @@ namespace {
 constexpr int fractionDigits = 2;
 constexpr int groupDigits = 3;
 constexpr QChar zero = QLatin1Char('0'); // is a digit in every locale
-constexpr QChar blank = QLatin1Char(' ');
-constexpr QChar minusSign(0x2212);
 
-/** Replaces \a length units at \a start; the cursor keeps to the text on its left. */
-void replace(QString &text, int &pos, int start, int length, const QString &by)
-{
-    text.replace(start, length, by);
-    if (pos > start)
-        pos = qMax(pos - length, start) + by.size();
-}
-
-bool standsAt(const QString &symbol, const QString &text, int start)
-{
-    return !symbol.isEmpty() && text.midRef(start).startsWith(symbol);
-}
-
-/** Where the number begins behind its sign, if it has one that the spin box may understand. */
-int digitsStart(const QString &text, const NumericFormat &format)
-{
-    const int start = format.prefix.size();
-    if (start >= text.size() || text.at(start).isDigit())
-        return start;
-    for (const QString *sign : {&format.negativeSign, &format.positiveSign}) {
-        if (standsAt(*sign, text, start))
-            return start + sign->size();
-    }
-    const QChar first = text.at(start);
-    const bool isSign = first == QLatin1Char('-') || first == QLatin1Char('+') || first == minusSign;
-    return isSign ? start + 1 : start;
-}
-
-int integerEnd(const QString &text, const NumericFormat &format)
-{
-    if (format.hasFraction)
-        return text.indexOf(format.decimalPoint, format.prefix.size());
-    return text.endsWith(format.suffix) ? text.size() - format.suffix.size() : text.size();
-}
-
+/** \a text without prefix, suffix and the blanks around. */
 QStringRef number(const QString &text, const NumericFormat &format)
 {
     QStringRef rest(&text);
@@ -62,78 +24,77 @@ void completeFraction(QString &text, const NumericFormat &format)
 {
     const QStringRef found = number(text, format);
     const int point = found.indexOf(format.decimalPoint);
-    const int length = point + (format.hasFraction ? format.decimalPoint.size() + fractionDigits : 0);
-    if (format.hasFraction ? point >= 0 && found.size() == length : point < 0)
-        return;
-    QString shaped = found.toString();
-    if (point < 0)
-        shaped += format.decimalPoint + QString(fractionDigits, zero);
-    else
-        shaped = shaped.leftJustified(length, zero, true);
+    QString shaped;
+    if (point < 0 && format.hasFraction) {
+        shaped = found + format.decimalPoint + QString(fractionDigits, zero);
+    } else {
+        const int length = format.hasFraction ? point + 1 + fractionDigits : point;
+        if (point < 0 || found.size() == length)
+            return;
+        shaped = found.toString().leftJustified(length, zero, true);
+    }
     text = format.prefix + shaped + format.suffix;
 }
 
-/** Deleting the digits in front of a separator leaves it at the start. */
-void removeLeadingSeparator(QString &text, int &pos, const NumericFormat &format)
+/** Where the number begins behind its sign; the spin box understands these three in every locale. */
+int digitsStart(const QString &text, const NumericFormat &format)
 {
-    const int start = digitsStart(text, format);
-    if (standsAt(format.groupSeparator, text, start))
-        replace(text, pos, start, format.groupSeparator.size(), QString());
+    static const QString signs = QStringLiteral("-+\u2212");
+    const int start = format.prefix.size();
+    return start < text.size() && signs.contains(text.at(start)) ? start + 1 : start;
+}
+
+int integerEnd(const QString &text, const NumericFormat &format)
+{
+    if (format.hasFraction)
+        return text.indexOf(format.decimalPoint, format.prefix.size());
+    return text.endsWith(format.suffix) ? text.size() - format.suffix.size() : text.size();
 }
 
 /**
- * The length of the separator that ends at \a end and does not begin before \a first; 0 if there is none.
- * Where numbers are grouped by a blank that does not break, people and other programs write a plain one,
- * and the spin box accepts it.
+ * Where numbers are grouped by a blank that does not break, people and other programs write a plain one, and
+ * the spin box accepts it.
  */
-int separatorLength(const QString &text, int first, int end, const NumericFormat &format)
+bool isSeparator(QChar unit, const NumericFormat &format)
 {
-    if (text.at(end - 1).isDigit())
-        return 0;
-    const QStringRef digits = text.midRef(first, end - first);
-    if (digits.endsWith(format.groupSeparator))
-        return format.groupSeparator.size();
-    return digits.endsWith(blank) && format.groupSeparator.trimmed().isEmpty() ? 1 : 0;
-}
-
-void regroup(QString &text, int &pos, const NumericFormat &format)
-{
-    const int first = digitsStart(text, format);
-    int digits = 0; // in the group so far
-    for (int i = integerEnd(text, format); i > first;) {
-        const int length = separatorLength(text, first, i, format);
-        if (length == 0 && digits < groupDigits) {
-            ++digits;
-            --i;
-            continue;
-        }
-        i -= length;
-        const bool wanted = digits == groupDigits;
-        const QString separator = wanted ? format.groupSeparator : QString();
-        if (text.midRef(i, length) != separator)
-            replace(text, pos, i, length, separator);
-        if (wanted)
-            digits = 0;
-    }
+    return unit == format.groupSeparator || (unit == QLatin1Char(' ') && format.groupSeparator.isSpace());
 }
 
 } // namespace
 
-NumericFormat::NumericFormat(const QLocale &locale)
-    : decimalPoint(locale.decimalPoint())
-    , groupSeparator(locale.groupSeparator())
-    , negativeSign(locale.negativeSign())
-    , positiveSign(locale.positiveSign())
-{}
-
-QValidator::State validateNumericText(QString &text, int &pos, const NumericFormat &format,
-                                      const NumericVerdict &verdict)
+void completeNumber(QString &text, int &pos, const NumericFormat &format)
 {
     completeFraction(text, format);
-    removeLeadingSeparator(text, pos, format);
-    const QValidator::State state = verdict(text, pos);
-    regroup(text, pos, format);
-    return state;
+    // Deleting the digits in front of a separator leaves it at the start.
+    const int start = digitsStart(text, format);
+    if (start < text.size() && text.at(start) == format.groupSeparator) {
+        text.remove(start, 1);
+        if (pos > start)
+            --pos;
+    }
+}
+
+void groupNumber(QString &text, int &pos, const NumericFormat &format)
+{
+    const int first = digitsStart(text, format);
+    int end = integerEnd(text, format);
+    for (int i = end - 1; i >= first; --i) {
+        const bool wanted = (end - i) % (groupDigits + 1) == 0;
+        const bool found = isSeparator(text.at(i), format);
+        if (wanted && !found) {
+            text.insert(i + 1, format.groupSeparator);
+            ++end;
+            if (pos > i + 1)
+                ++pos;
+        } else if (!wanted && found) {
+            text.remove(i, 1);
+            --end;
+            if (pos > i)
+                --pos;
+        } else if (found && text.at(i) != format.groupSeparator) {
+            text[i] = format.groupSeparator;
+        }
+    }
 }
 
 } // namespace NVO

@@ -1,40 +1,28 @@
 #pragma once
 
+#include <QChar>
 #include <QString>
-#include <QValidator>
-
-#include <functional>
-
-class QLocale;
 
 namespace NVO {
 
-/** What the text of a number is made of, each symbol of any number of UTF-16 units. */
+/** What the text of a number is made of. */
 struct NumericFormat
 {
-    NumericFormat() = default;
-    explicit NumericFormat(const QLocale &locale);
-
     QString prefix;
     QString suffix;
-    QString decimalPoint;
-    QString groupSeparator;
-    QString negativeSign;
-    QString positiveSign;
+    QChar decimalPoint;
+    QChar groupSeparator;
     bool hasFraction = true; ///< Two digits behind a decimal point, or neither.
 };
 
-/** Judges a text and may change it and the cursor in it. */
-using NumericVerdict = std::function<QValidator::State(QString &text, int &pos)>;
-
 /**
- * Gives \a text the shape of \a format: the prefix, a number with exactly two fraction digits, the suffix.
- * Then \a verdict judges the text, and last its digits are grouped by threes. Returns what \a verdict says.
- *
- * \a pos, the cursor, moves with what is put in or taken out before it, save the blanks around a number that
- * had to be completed or cut, so that it may lie behind the end.
+ * Gives \a text the shape of \a format but for the digit groups: the prefix, a number with exactly two
+ * fraction digits, the suffix. \a pos, the cursor, stays and so may lie behind the end; it moves only with a
+ * separator that is removed from the start of the number.
  */
-QValidator::State validateNumericText(QString &text, int &pos, const NumericFormat &format,
-                                      const NumericVerdict &verdict);
+void completeNumber(QString &text, int &pos, const NumericFormat &format);
+
+/** Groups the digits before the fraction by threes; \a pos, the cursor, stays at its digit. */
+void groupNumber(QString &text, int &pos, const NumericFormat &format);
 
 } // namespace NVO

@@ -15,17 +15,23 @@ class TestCapsLock : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
+    void cleanup()
     {
         if (KeyState::isCapsLockActive())
             key("Caps_Lock");
-        QTRY_VERIFY(!KeyState::isCapsLockActive());
     }
-
-    void cleanup() { init(); }
 
     void toggles()
     {
+        cleanup();
+        key("Num_Lock"); // the server handles keys in their order, so that this one has come when the next
+                         // has
+        key("Caps_Lock");
+        QTRY_VERIFY(KeyState::isCapsLockActive()); // without a window of ours
+        key("Caps_Lock");
+        QTRY_VERIFY(!KeyState::isCapsLockActive());
+        key("Num_Lock");
+
         QLineEdit field;
         NVO::CapsLockEventFilter filter;
         field.installEventFilter(&filter);
@@ -43,20 +49,7 @@ private Q_SLOTS:
             key("a");
             typed += on ? 'A' : 'a';
             QTRY_COMPARE(field.text(), typed);
-            QCOMPARE(KeyState::isCapsLockActive(), on);
         }
-    }
-
-    void otherLocksAreNotIt()
-    {
-        key("Num_Lock");
-        QTest::qWait(50);
-        const bool withNumLock = KeyState::isCapsLockActive();
-        key("Num_Lock");
-        QVERIFY(!withNumLock);
-        // The lock needs no window of ours.
-        key("Caps_Lock");
-        QTRY_VERIFY(KeyState::isCapsLockActive());
     }
 
 private:

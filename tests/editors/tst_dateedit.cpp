@@ -31,18 +31,10 @@ BaseDateEdit::Flags flagsOf(int flags)
     return BaseDateEdit::Flags(QFlag(flags));
 }
 
-bool isDay(int year, int month, int day)
-{
-    const int lengths[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    const bool leap = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
-    return year > 0 && month >= 1 && month <= 12 && day >= 1
-           && day <= lengths[month - 1] + (leap && month == 2 ? 1 : 0);
-}
-
 /** 2 for a date, which \a date becomes, 1 for what can become one, 0 for the rest. */
-int judgedPart(QString text, int flags, int fixedYear, QDate *date)
+int judgedPart(const QString &text, int flags, int fixedYear, QDate *date)
 {
-    QStringList parts = text.remove('_').split(flags & 8 ? '/' : '.');
+    QStringList parts = QString(text).remove('_').split(flags & 8 ? '/' : '.');
     int numbers[] = {1, 1, fixedYear > 0 ? fixedYear : 2000};
     const int maxima[] = {39, 19, 2999};
     bool missing = false;
@@ -52,8 +44,8 @@ int judgedPart(QString text, int flags, int fixedYear, QDate *date)
         if (parts.isEmpty())
             return 0;
         const QString part = parts.takeFirst();
-        const bool digits = std::all_of(part.begin(), part.end(), [](QChar c) { return c.isDigit(); });
-        if (!digits || part.size() > 9 || part.toInt() > maxima[i])
+        if (std::any_of(part.begin(), part.end(), [](QChar c) { return !c.isDigit(); }) || part.size() > 9
+            || part.toInt() > maxima[i])
             return 0;
         missing |= part.isEmpty();
         if (!part.isEmpty())
@@ -61,9 +53,10 @@ int judgedPart(QString text, int flags, int fixedYear, QDate *date)
     }
     if (fixedYear > 0 && numbers[2] != fixedYear)
         return 0;
-    if (missing || !isDay(numbers[2], numbers[1], numbers[0]))
+    const QDate named(numbers[2], numbers[1], numbers[0]);
+    if (missing || !named.isValid())
         return 1;
-    *date = QDate(numbers[2], numbers[1], numbers[0]);
+    *date = named;
     return 2;
 }
 
@@ -85,28 +78,21 @@ int judged(const QString &text, const BaseDateEdit &field)
     return state;
 }
 
-/** What stepping makes of \a text, found by looking at all its numbers. */
+/** What stepping makes of \a text: of the number, with the blanks around it, at the cursor or else before. */
 QString steppedByHand(const QString &text, int cursor, int delta)
 {
+    static const QRegularExpression ending("_*([0-9]*)$");
+    static const QRegularExpression beginning("^([0-9]+)_*");
     const int last = cursor == text.size() ? cursor - 1 : cursor;
-    for (const int at : {last, last - 1}) {
-        auto numbers = QRegularExpression("[0-9]+").globalMatch(text);
-        while (numbers.hasNext()) {
-            const auto match = numbers.next();
-            if (at < match.capturedStart() || at >= match.capturedEnd())
-                continue;
-            QString before = text.left(match.capturedStart());
-            QString after = text.mid(match.capturedEnd());
-            QString number = QString::number(match.captured().toInt() + delta);
-            int width = match.capturedLength();
-            for (; before.endsWith('_'); ++width)
-                before.chop(1);
-            for (; after.startsWith('_'); ++width)
-                after.remove(0, 1);
-            while (number.size() < width)
-                number.prepend('0');
-            return before + number + after;
-        }
+    for (int at = last; at >= qMax(0, last - 1); --at) {
+        const auto head = ending.match(text.left(at));
+        const auto tail = beginning.match(text.mid(at));
+        if (!tail.hasMatch())
+            continue;
+        const QString number = QString::number((head.captured(1) + tail.captured(1)).toInt() + delta);
+        return text.left(head.capturedStart())
+               + number.rightJustified(head.capturedLength() + tail.capturedLength(), '0')
+               + text.mid(at + tail.capturedLength());
     }
     return {};
 }
@@ -130,17 +116,28 @@ struct Form : QWidget
             QTest::keyClick(focusWidget(), Qt::Key_Tab);
     }
 
+    QList<QDate> dates() const { return {date.date(), period.startDate(), period.endDate()}; }
+
     QLineEdit other;
     DateEdit date;
     PeriodEdit period;
     const QList<BaseDateEdit *> fields{&date, &period};
 };
 
-bool takesKey(QWidget *widget, QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers)
+bool takesKey(QWidget *widget, QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
 {
     QKeyEvent event(type, key, modifiers);
     QApplication::sendEvent(widget, &event);
     return event.isAccepted();
+}
+
+/** The mask belongs to the focus or a date, else the placeholder is there. No empty field is undescribed. */
+void checkFace(const BaseDateEdit &field)
+{
+    const bool complete = judged(field.text(), field) == 2;
+    QCOMPARE(field.inputMask().isEmpty(), !complete && !field.hasFocus());
+    QCOMPARE(field.placeholderText().isEmpty(), !field.inputMask().isEmpty());
+    QVERIFY(complete || !field.accessibleDescription().isEmpty());
 }
 
 QString description(QWidget *widget)
@@ -155,30 +152,25 @@ class TestDateEdit : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    // clang-format off
-    void forms_data()
-    {
-        QTest::addColumn<int>("flags");
-        QTest::addColumn<int>("year");
-        QTest::addColumn<QString>("mask");
-        QTest::addColumn<QString>("placeholder");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("all") << 0 << -1 << "09.09.9999" << "dd.mm.jjjj" << "05.03.0987";
-        QTest::newRow("slash") << 8 << 0 << "09/09/9999" << "dd/mm/jjjj" << "05/03/0987";
-        QTest::newRow("day and month") << 4 << 2019 << "09.09." << "dd.mm." << "05.03.";
-        QTest::newRow("month and year") << 9 << -1 << "09/9999" << "mm/jjjj" << "03/0987";
-        QTest::newRow("2019") << 1 << 2019 << "09.2\\01\\9" << "mm.2019" << "03.0987";
-        QTest::newRow("1990") << 3 << 1990 << "1\\9\\9\\0" << "1990" << "0987";
-    }
-
-    // clang-format on
     void forms()
     {
-        QFETCH(int, flags);
-        QFETCH(int, year);
-        QTEST(Parts::maskPartFor(flagsOf(flags), year), "mask");
-        QTEST(Parts::placeholderPartFor(flagsOf(flags), year), "placeholder");
-        QTEST(Parts::stringFor(QDate(987, 3, 5), flagsOf(flags)), "text");
+        const QDate day(987, 3, 5);
+        const struct
+        {
+            int flags;
+            int year;
+            QString mask, placeholder, text;
+        } forms[] = {{0, -1, "09.09.9999", "dd.mm.jjjj", "05.03.0987"},
+                     {8, 0, "09/09/9999", "dd/mm/jjjj", "05/03/0987"},
+                     {4, 2019, "09.09.", "dd.mm.", "05.03."},
+                     {9, -1, "09/9999", "mm/jjjj", "03/0987"},
+                     {1, 2019, "09.2\\01\\9", "mm.2019", "03.0987"},
+                     {3, 1990, "1\\9\\9\\0", "1990", "0987"}};
+        for (const auto &form : forms) {
+            QCOMPARE(Parts::maskPartFor(flagsOf(form.flags), form.year), form.mask);
+            QCOMPARE(Parts::placeholderPartFor(flagsOf(form.flags), form.year), form.placeholder);
+            QCOMPARE(Parts::stringFor(day, flagsOf(form.flags)), form.text);
+        }
     }
 
     void outcomes()
@@ -190,20 +182,19 @@ private Q_SLOTS:
         const QStringList months = days.mid(0, odd.size() + 2 * 21);
         const QStringList years =
             odd + QStringList{"0", "4", "19__", "1900", "2000", "2019", "2020", "2999", "3000"};
+        const QStringList parts[] = {days, months, years};
         for (int flags = 0; flags < 16; ++flags) {
-            QStringList texts{"", "05", "05.03", "05/03", "05.03.2019.x"};
-            QStringList heads{""};
+            QStringList texts{""};
             for (int i = 0; i < 3; ++i) {
-                const QStringList &parts = i == 0 ? days : i == 1 ? months : years;
                 QStringList longer;
-                for (const QString &head : qAsConst(heads)) {
-                    for (const QString &part : parts)
+                for (const QString &head : qAsConst(texts)) {
+                    for (const QString &part : parts[i])
                         longer += head + part + (i < 2 ? QString(flags & 8 ? '/' : '.') : QString());
                 }
                 if (!(flags & (1 << i)))
-                    heads = longer;
+                    texts = longer;
             }
-            for (const QString &text : texts + heads) {
+            for (const QString &text : texts + QStringList{"", "05", "05.03", "05/03", "05.03.2019.x"}) {
                 for (const int fixed : {-1, 0, 2019, 4, 3000}) {
                     QDate expected(1, 1, 1);
                     QDate date = expected;
@@ -217,37 +208,6 @@ private Q_SLOTS:
         }
     }
 
-    void stepKeysAtEveryPlace()
-    {
-        Form form;
-        for (int run = 0; run < 4; ++run) {
-            BaseDateEdit *field = form.fields[run % 2];
-            field->setFixedYear(run < 2 ? -1 : 1999);
-            field->setFocus();
-            for (QString text : {"09.09.2019", "31.12.1999", "3.1.29", "..0005", "05..", "1.19.2999"}) {
-                text += field == &form.period ? " - 01.12.1999" : "";
-                field->setText(text);
-                for (int place = 4 * field->displayText().size() + 3; place >= 0; --place) {
-                    field->setText(text);
-                    field->setCursorPosition(place / 4); // Qt keeps it off the separators
-                    const int cursor = field->cursorPosition();
-                    const QString before = field->displayText();
-                    const QString after = steppedByHand(before, cursor, stepDeltas[place % 4]);
-                    const bool taken = !after.isNull() && judged(after, *field) > 0;
-                    QTest::keyClick(field, stepKeys[place % 4], Qt::KeypadModifier);
-                    QCOMPARE(field->text(), QString(taken ? after : before).remove('_'));
-                    QCOMPARE(field->cursorPosition(), cursor);
-                }
-            }
-        }
-        form.date.setFixedYear(-1);
-        form.date.setFlags(BaseDateEdit::Year);
-        form.date.setInputMask("");
-        form.date.setText("99999999999");
-        QTest::keyClick(&form.date, Qt::Key_Up);
-        QCOMPARE(form.date.text(), "99999999999");
-    }
-
     void swallowedStepKeys()
     {
         DateEdit field;
@@ -256,54 +216,86 @@ private Q_SLOTS:
             for (const auto modifier : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier})
                 QVERIFY(takesKey(&field, QEvent::KeyPress, key, modifier));
             field.setReadOnly(true);
-            QVERIFY(takesKey(&field, QEvent::KeyPress, key, Qt::NoModifier));
-            QVERIFY(takesKey(&field, QEvent::KeyRelease, key, Qt::NoModifier));
+            QVERIFY(takesKey(&field, QEvent::KeyPress, key) && takesKey(&field, QEvent::KeyRelease, key));
             field.setReadOnly(false);
             QCOMPARE(field.text(), "05.03.2019");
         }
-        QVERIFY(!takesKey(&field, QEvent::KeyRelease, Qt::Key_A, Qt::NoModifier));
+        QVERIFY(!takesKey(&field, QEvent::KeyRelease, Qt::Key_A));
+        field.setFlags(BaseDateEdit::Year);
+        field.setInputMask("");
+        field.setText("99999999999");
+        QTest::keyClick(&field, Qt::Key_Up);
+        QCOMPARE(field.text(), "99999999999");
     }
 
-    // The keys of a field, but for the stepping ones, go to a plain line edit with its mask as well.
-    void typing()
+    // What is done to a field, but for the stepping keys, is done to a plain line edit with its mask as well.
+    void anythingInAnyOrder()
     {
-        const QList<int> keys{Qt::Key_Left,   Qt::Key_Right,     Qt::Key_Home,  Qt::Key_End,   Qt::Key_A,
-                              Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Space, Qt::Key_Period};
+        const QList<Qt::Key> keys{Qt::Key_Left,   Qt::Key_Right,     Qt::Key_Home,  Qt::Key_End,   Qt::Key_A,
+                                  Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Space, Qt::Key_Period};
+        const QStringList texts{"09.09.2019", "31.12.1999", "3.1.29", "..0005", "05..", "1.19.2999"};
+        const QList<int> forms{0, 0, 8, 1, 2, 3, 4, 5, 6, 9, 12};
+        const QList<int> years{-1, -1, 1999, 2009, 987, 5};
         QRandomGenerator random(1990);
-        for (int run = 0; run < 150; ++run) {
+        for (int run = 0; run < 800; ++run) {
             Form form;
             BaseDateEdit &field = *form.fields[run % 2];
-            field.setFixedYear(run % 3 ? -1 : 1990);
-            field.setFocus();
             QLineEdit plain;
-            const QString mask = field.inputMask();
-            plain.setInputMask(mask);
-            for (int step = 0; step < 60; ++step) {
-                const int kind = int(random.bounded(20));
+            const auto changeForm = [&] {
+                field.setFixedYear(0); // which no field here has
+                field.setFlags(flagsOf(forms[int(random.bounded(forms.size()))]));
+                checkFace(field);
+                field.setFixedYear(years[int(random.bounded(years.size()))]);
+                checkFace(field);
+            };
+            field.setFocus();
+            changeForm();
+            plain.setInputMask(field.inputMask());
+            for (int step = 0; step < 80; ++step) {
+                const int kind = int(random.bounded(27));
                 if (kind == 0) {
                     // Away and back: a date stays as it was typed, everything else goes.
-                    const bool kept = judged(plain.text(), field) == 2;
-                    form.other.setFocus();
-                    QCOMPARE(field.displayText(), kept ? plain.displayText() : QString());
-                    QCOMPARE(field.inputMask(), kept ? mask : QString());
-                    QCOMPARE(field.placeholderText().isEmpty(), kept);
-                    field.setFocus();
-                    QVERIFY(field.placeholderText().isEmpty());
-                    if (!kept)
+                    if (judged(plain.text(), field) != 2)
                         plain.clear();
+                    if (random.bounded(2))
+                        form.other.setFocus();
+                    else
+                        field.setDisabled(true);
+                    checkFace(field);
+                    QCOMPARE(field.displayText(), field.inputMask().isEmpty() ? "" : plain.displayText());
+                    field.setDisabled(false);
+                    field.setFocus();
+                    checkFace(field);
                     plain.home(false);
+                } else if (kind == 26) {
+                    if (random.bounded(2))
+                        form.other.setFocus();
+                    changeForm();
+                    break;
                 } else if (kind == 1) {
+                    field.setReadOnly(!field.isReadOnly());
+                    plain.setReadOnly(field.isReadOnly());
+                } else if (kind == 2) {
+                    QString text = texts[int(random.bounded(texts.size()))];
+                    text += &field == &form.period ? " - 01.12.2999" : "";
+                    field.setText(text);
+                    plain.setText(text);
+                } else if (kind < 6) {
+                    const int place = int(random.bounded(plain.displayText().size() + 1));
+                    field.setCursorPosition(place);
+                    plain.setCursorPosition(place);
+                } else if (kind < 12) {
                     const int i = int(random.bounded(4));
                     const int cursor = plain.cursorPosition();
                     QString after = steppedByHand(plain.displayText(), cursor, stepDeltas[i]);
-                    if (judged(after, field) > 0) {
+                    if (!plain.isReadOnly() && !after.isNull() && judged(after, field) > 0) {
                         plain.setText(after.remove('_'));
                         plain.setCursorPosition(cursor);
                     }
-                    QTest::keyClick(&field, stepKeys[i]);
+                    QTest::keyClick(&field, stepKeys[i], Qt::KeypadModifier);
                 } else {
-                    const auto key = Qt::Key(kind < 8 ? keys[int(random.bounded(keys.size()))]
-                                                      : Qt::Key_0 + int(random.bounded(kind < 14 ? 3 : 10)));
+                    const auto key = kind < 16 ? keys[int(random.bounded(keys.size()))]
+                                               : Qt::Key(Qt::Key_0 + int(random.bounded(kind < 21 ? 3 : 10)));
                     QTest::keyClick(&field, key);
                     QTest::keyClick(&plain, key);
                 }
@@ -315,120 +307,79 @@ private Q_SLOTS:
 
     void datesSurviveTabbing()
     {
-        for (int run = 0; run < 16 * 7 * 3; ++run) {
+        for (int run = 0; run < 2 * 7 * 16; ++run) {
             const int flags = run % 16;
             const int fixed = QVector<int>{-1, 2009, 1990, 1000, 987, 19, 5}[run / 16 % 7];
-            const int way = 1 + run / 16 / 7;
-            if ((flags & 7) == 7 || (way == 1 && flags))
-                continue; // shows nothing, or takes away what is already typed
+            const bool masked = run / 16 / 7;
+            if ((flags & 7) == 7 || (!masked && flags))
+                continue; // shows nothing, or takes away what is already there
             Form form;
-            const auto setForm = [&form, flags, fixed] {
+            const int year = fixed > 0 ? fixed : 17;
+            for (const bool withForm : {masked, true}) {
                 for (BaseDateEdit *field : form.fields) {
-                    field->setFlags(flagsOf(flags));
-                    field->setFixedYear(fixed);
+                    field->setFlags(flagsOf(withForm ? flags : 0));
+                    field->setFixedYear(withForm ? fixed : -1);
                 }
-            };
-            if (way != 1)
-                setForm();
-            if (way == 3) {
-                // Parts as short as they can be; the separators jump.
-                const QString separator = flags & 8 ? "/" : ".";
-                const QString typed = (flags & 1 ? "" : "3" + separator) + (flags & 2 ? "" : "2" + separator)
-                                      + (flags & 4 || fixed > 0 ? "" : "17");
-                form.date.setFocus();
-                QTest::keyClicks(&form.date, typed);
-                form.period.setFocus();
-                QTest::keyClicks(&form.period, typed + ' ' + typed);
-            } else {
-                const int year = fixed > 0 ? fixed : 17;
-                for (int times = 0; times < way; ++times) {
+                if (!withForm || masked) {
                     form.tabAround(); // the second time there are masks
                     form.date.setDate(QDate(year, 12, 28));
                     form.period.setDate(QDate(year, 2, 3), QDate(year, 12, 28));
                 }
             }
-            if (way == 1)
-                setForm();
-            const QList<QDate> dates{form.date.date(), form.period.startDate(), form.period.endDate()};
-            QVERIFY(dates[0].isValid() && dates[1].isValid() && dates[2].isValid());
-            form.other.setFocus();
+            const QList<QDate> dates = form.dates();
+            QVERIFY(!dates.contains(QDate()));
             form.tabAround();
             const QStringList texts{form.date.displayText(), form.period.displayText()};
             form.tabAround();
-            form.tabAround();
             QCOMPARE(QStringList({form.date.displayText(), form.period.displayText()}), texts);
-            QCOMPARE(QList<QDate>({form.date.date(), form.period.startDate(), form.period.endDate()}), dates);
+            QCOMPARE(form.dates(), dates);
         }
     }
 
     void setDate()
     {
+        const auto day = [](int year) { return QDate(year, 3, 5); };
         DateEdit date;
-        date.setDate(QDate(2019, 3, 5)); // without a mask as long as nobody looks
+        date.setDate(day(2019)); // without a mask as long as nobody looks
         QCOMPARE(date.text() + date.inputMask(), "05.03.2019");
         date.setFixedYear(2019);
-        QCOMPARE(date.inputMask(), "09.09.2\\01\\9;_");
-        date.setDate(QDate(2018, 3, 5));
-        QCOMPARE(date.date(), QDate(2019, 3, 5));
+        date.setDate(day(2018));
+        QCOMPARE(date.text() + date.inputMask(), "05.03.201909.09.2\\01\\9;_");
         date.setFixedYear(2020);
         QCOMPARE(date.text() + date.placeholderText(), "dd.mm.2020");
-        date.setDate(QDate(2020, 2, 29));
+        date.setDate(day(2020));
         date.setDate(QDate());
         QCOMPARE(date.text(), "");
 
         PeriodEdit period;
-        period.setDate(QDate(2019, 3, 5), QDate(2020, 1, 1));
-        QCOMPARE(period.text(), "05.03.2019 - 01.01.2020");
+        period.setDate(day(2019), day(2020));
+        QCOMPARE(period.text(), "05.03.2019 - 05.03.2020");
         period.setFixedYear(2020); // the start is outside
         QCOMPARE(period.text(), "");
-        period.setDate(QDate(2020, 3, 5), QDate(2020, 3, 5));
-        period.setDate(QDate(2020, 3, 5), QDate(2021, 1, 1));
-        QCOMPARE(period.endDate(), QDate(2020, 3, 5));
-        period.setDate(QDate(2020, 3, 5), QDate());
+        period.setDate(day(2020), day(2020));
+        period.setDate(day(2020), day(2021));
+        period.setDate(day(2019), day(2020));
+        QCOMPARE(period.text(), "05.03.2020 - 05.03.2020");
+        period.setDate(day(2020), QDate());
         QCOMPARE(period.text(), "");
     }
 
-    void settersInAnyOrder()
+    // A half that is no date takes nothing from the other one.
+    void halves()
     {
-        QRandomGenerator random(4711);
-        Form form;
-        for (int step = 0; step < 6000; ++step) {
-            BaseDateEdit *field = form.fields[int(random.bounded(2))];
-            const QDate day = QDate(2018, 12, 30).addDays(random.bounded(4));
-            switch (random.bounded(8)) {
-            case 0:
-                form.date.setDate(day);
-                form.period.setDate(day, day.addDays(1));
-                break;
-            case 1:
-            case 2:
-                field->setFlags(flagsOf(int(random.bounded(16))));
-                // What stays is a date in its new form; an empty field describes that.
-                QVERIFY(judged(field->text(), *field) == 2 || !field->accessibleDescription().isEmpty());
-                break;
-            case 3:
-                field->setFixedYear(random.bounded(2) ? 2019 : -1);
-                break;
-            case 4:
-                field->setReadOnly(!field->isReadOnly());
-                break;
-            case 5:
-                field->setEnabled(!field->isEnabled());
-                break;
-            case 6:
-                field->setFocus();
-                QTest::keyClick(field, stepKeys[random.bounded(4)]);
-                break;
-            default:
-                form.other.setFocus();
-            }
-        }
+        PeriodEdit period;
+        period.setText("05.03.2019 - .03.2019");
+        QCOMPARE(period.startDate(), QDate(2019, 3, 5));
+        QCOMPARE(period.endDate(), QDate());
+        period.setText(".. - 05.03.2019");
+        QCOMPARE(period.startDate(), QDate());
+        QCOMPARE(period.endDate(), QDate(2019, 3, 5));
     }
 
-    // A menu, another window or a change of style leaves a date with its selection and undo.
+    // A menu leaves a date with its selection, a visit elsewhere the date, and both leave the undo.
     void focusInPassing()
     {
-        for (const auto reason : {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason}) {
+        for (const auto reason : {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason, Qt::TabFocusReason}) {
             Form form;
             form.date.setFocus();
             QTest::keyClicks(&form.date, "5.3.2019");
@@ -437,8 +388,10 @@ private Q_SLOTS:
                 QFocusEvent event(type, reason);
                 QApplication::sendEvent(&form.date, &event);
                 form.date.setLineEditStyle(NVO::BaseEdit::LineEditStyle(type % 2));
+                const bool menu = reason == Qt::PopupFocusReason;
                 QCOMPARE(form.date.displayText(), "5_.3_.2019");
-                QCOMPARE(form.date.selectedText(), "3_");
+                QCOMPARE(form.date.selectedText(), menu ? "3_" : "");
+                QCOMPARE(form.date.cursorPosition(), menu ? 5 : 0);
                 QVERIFY(form.date.isUndoAvailable());
             }
         }
@@ -452,10 +405,12 @@ private Q_SLOTS:
         form.date.setFocus();
         QTest::keyClicks(&form.date, "5");
         QCOMPARE(form.date.displayText(), "__.__.____");
+        form.date.setCursorPosition(4);
+        form.date.clear();
+        QCOMPARE(form.date.cursorPosition(), 0);
         form.other.setFocus();
         form.date.setDate(QDate(2019, 3, 5));
-        QCOMPARE(form.date.text(), "");
-        QCOMPARE(form.date.placeholderText(), "dd.mm.jjjj");
+        QCOMPARE(form.date.text() + form.date.placeholderText(), "dd.mm.jjjj");
         disconnect(clearing);
 
         // A date in answer to a cleared text is kept.
@@ -475,8 +430,7 @@ private Q_SLOTS:
         form.period.setFocus();
         form.other.setFocus();
         QVERIFY(form.period.hasFocus());
-        QCOMPARE(form.period.displayText(), "__.__.____ - __.__.____");
-        QCOMPARE(form.period.placeholderText(), "");
+        QCOMPARE(form.period.displayText() + form.period.placeholderText(), "__.__.____ - __.__.____");
         disconnect(staying);
 
         QPointer<DateEdit> dying = new DateEdit(&form);
@@ -491,7 +445,6 @@ private Q_SLOTS:
     {
         Form form;
         form.period.setFlags(BaseDateEdit::MonthYear);
-        QCOMPARE(QAccessible::queryAccessibleInterface(&form.date)->role(), QAccessible::EditableText);
         QCOMPARE(description(&form.period), "mm/jjjj - mm/jjjj");
         for (BaseDateEdit *field : form.fields) {
             const QString empty = description(field);
@@ -500,7 +453,6 @@ private Q_SLOTS:
             QTest::keyClick(field, Qt::Key_1);
             QCOMPARE(description(field), "");
             form.other.setFocus();
-            QCOMPARE(description(field), empty);
             field->setAccessibleDescription("Fällig am");
             field->setFocus();
             field->setFlags({});
