@@ -25,13 +25,14 @@ class ItemPositions;
  * The widgets come from a RecyclingListAdapter, which gets back those that went off the screen. The height of
  * an item is known once it was shown; until then the average of the known heights stands for it. So the range
  * of the scroll bar, in pixels, is an estimate that gets better while the user scrolls. Places once found out
- * do not follow the average, and while much is unknown the last items can lie beyond the end of the range, or
- * end above it. From 1000 items on the range follows the places, so that the last item always ends where the
- * range does.
+ * do not follow the average, and while much is unknown the last items of a short list can lie beyond the end
+ * of the range, or end above it. Where the scroll bar stands at or below the top of the last item, a short
+ * list is laid out from its first item on, with a widget for each.
  *
- * Where the scroll bar stands at or below the top of the last item, the items are laid out from the first one
- * on, with a widget for each. It comes to that at the end of a list that is not higher than its last item and
- * the margin below that, and in one of less than 1000 items whose range is too long.
+ * From 1000 items on no place of the scroll bar costs a widget for each item: the range follows the places,
+ * so that the last item always ends where the range does; from the top of the last item on that one is shown
+ * alone; an item that turns out to end above the list leaves its widget to the next; and at most 1000 items
+ * are laid out at once, which is less than all only if they have no height or no widget.
  *
  * The range is at most 2147483647 (2^31 - 1) pixels: what would lie below cannot be scrolled to.
  *

@@ -28,7 +28,7 @@ public:
 
     QString text(QAccessible::Text type) const override
     {
-        const QString own = QAccessibleWidget::text(type);
+        QString own = QAccessibleWidget::text(type);
         if (type != QAccessible::Description || !own.isEmpty())
             return own;
         const int items = rowCount();

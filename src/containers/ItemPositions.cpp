@@ -116,24 +116,19 @@ int ItemPositions::firstBelow(qint64 pixel)
 int ItemPositions::firstVisible(qint64 pixel)
 {
     const int below = firstBelow(pixel);
-    return below < count() ? std::max(below - 1, 0) : 0;
+    if (below < count())
+        return std::max(below - 1, 0);
+    return isMany() && pixel > 0 ? count() - 1 : 0;
 }
 
 qint64 ItemPositions::totalHeight() const
 {
-    const qint64 items = count();
-    return (items - 1) * m_spacing + m_average * (items - m_known.count) + 2 * qint64(m_marginTopBottom)
-           + m_known.height;
-}
-
-qint64 ItemPositions::totalHeightAsPlaced() const
-{
-    if (m_lastPlaced < 0)
-        return totalHeight();
-    const Sums before = sumsBefore(m_lastPlaced);
-    const qint64 open = count() - m_lastPlaced;
-    return topIn(m_runs.back(), m_lastPlaced, before) + (open - 1) * m_spacing + m_known.height
-           - before.height + m_average * (open - (m_known.count - before.count)) + m_marginTopBottom;
+    const int placed = isMany() ? std::max(m_lastPlaced, 0) : 0;
+    const Sums before = sumsBefore(placed);
+    const qint64 open = count() - placed;
+    const qint64 top = placed > 0 ? topIn(m_runs.back(), placed, before) : m_marginTopBottom;
+    return top + (open - 1) * m_spacing + m_known.height - before.height
+           + m_average * (open - (m_known.count - before.count)) + m_marginTopBottom;
 }
 
 void ItemPositions::addKnown(int index, int height, int known)

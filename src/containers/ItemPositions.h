@@ -24,8 +24,10 @@ class ItemPositions
 {
 public:
     static constexpr int outside = -1000; ///< The top of an item that there is not.
+    static constexpr int many = 1000;     ///< From here on nothing may cost a widget for each item.
 
     int count() const { return int(m_items.size()); }
+    bool isMany() const { return count() >= many; }
 
     /** New items have no height; of those that go all is forgotten. Negative counts are 0. */
     void resize(int count);
@@ -52,16 +54,17 @@ public:
     int firstBelow(qint64 pixel);
 
     /**
-     * The item before firstBelow(): that on which \a pixel lies. 0 if there is none below, so for all pixels
-     * from the top of the last item on.
+     * The item before firstBelow(): that on which \a pixel lies. If there is none below, so for all pixels
+     * from the top of the last item on, 0; if there are many items the last one, but for pixel 0, at which
+     * all can lie as long as no height is known.
      */
     int firstVisible(qint64 pixel);
 
-    /** The height of all, margins included, as the present average puts it. */
+    /**
+     * The height of all, margins included, as the present average puts it; if there are many items, with the
+     * places that were found out before as they are.
+     */
     qint64 totalHeight() const;
-
-    /** The same, but with the places that were found out before as they are. */
-    qint64 totalHeightAsPlaced() const;
 
     /** \name A number that the list notes for each item; 0 at first */
     ///@{

@@ -22,7 +22,6 @@ constexpr int containerSize = 16777215;
 constexpr int spareLimit = 10;
 constexpr int singleStep = 99;
 constexpr int pageStep = 400;
-constexpr int manyItems = 1000;     // from here on the range follows the places
 constexpr int passDepthLimit = 100; // passes inside each other, before the next one waits for the event loop
 
 int toInt(qint64 pixels)
@@ -250,7 +249,8 @@ bool RecyclingList::layOutItems(Pass &pass)
     m_passSize = m_superContainer->size();
 
     int slot = 0;
-    for (int position = m_items->firstVisible(pass.top); position < count && !pass.isFull; ++position) {
+    int position = m_items->firstVisible(pass.top);
+    for (int shown = 0; position < count && shown < NVO::ItemPositions::many && !pass.isFull; ++shown) {
         if (m_usedWidgets.size() == slot)
             m_usedWidgets.resize(slot + 1);
         if (m_boundPositions.size() <= slot)
@@ -264,7 +264,11 @@ bool RecyclingList::layOutItems(Pass &pass)
             place(pass, slot, position);
         if (!pass.isAlive())
             return false;
-        ++slot;
+        ++position;
+        if (slot == 0 && position < count && m_items->isMany() && m_items->top(position) <= pass.top)
+            position = m_items->firstVisible(pass.top); // that one ended above: the next takes its widget
+        else
+            ++slot;
     }
     return hideSpares(pass, slot);
 }
@@ -295,7 +299,9 @@ void RecyclingList::place(Pass &pass, int slot, int position)
         const qint64 y = m_items->top(position) - pass.top;
         m_usedWidgets[slot].position = position;
         pass.isFull = y + height > m_superContainer->height();
-        widget->setGeometry(0, toInt(y), m_superContainer->width() - m_marginRight, height);
+        const qint64 lowest = qint64(std::numeric_limits<int>::max()) - height; // a bottom has its limit, too
+        widget->setGeometry(0, toInt(std::min(y, lowest)),
+                            toInt(qint64(m_superContainer->width()) - m_marginRight), height);
         if (widget)
             widget->show();
         if (widget)
@@ -356,8 +362,8 @@ bool RecyclingList::isPooled(const QWidget *widget, int slots) const
 /** The item that a slot is bound to stays with the slot. */
 void RecyclingList::ensureUsingProperty(int slot, int value)
 {
-    const auto begin = m_usedWidgets.begin() + slot;
-    const auto found = std::find_if(begin, m_usedWidgets.end(), [value](const UsedWidgetData &used) {
+    auto *const begin = m_usedWidgets.begin() + slot;
+    auto *const found = std::find_if(begin, m_usedWidgets.end(), [value](const UsedWidgetData &used) {
         return used.propertyValue == value;
     });
     if (found != m_usedWidgets.end() && found != begin)
@@ -377,9 +383,7 @@ void RecyclingList::updatePropertyValue(UsedWidgetData &used)
 
 void RecyclingList::updateScrollBar(Pass &pass)
 {
-    const qint64 total =
-        m_items->count() < manyItems ? m_items->totalHeight() : m_items->totalHeightAsPlaced();
-    const qint64 range = total - m_superContainer->height();
+    const qint64 range = m_items->totalHeight() - m_superContainer->height();
     showBarOrPlaceholder(pass, range >= 0);
     if (!pass.isAlive())
         return;
@@ -495,15 +499,14 @@ void RecyclingList::keyPressEvent(QKeyEvent *event)
     const int page = std::min(pageStep, m_superContainer->height());
     const qint64 value = m_scrollBar->value();
     const bool isPlain = !(event->modifiers() & ~Qt::KeypadModifier);
-    if (focusPolicy() == Qt::NoFocus || !isPlain)
-        QFrame::keyPressEvent(event);
-    else if (event->key() == Qt::Key_PageUp)
+    const int key = isPlain && focusPolicy() != Qt::NoFocus ? event->key() : 0;
+    if (key == Qt::Key_PageUp)
         m_scrollBar->setValue(toInt(value - page));
-    else if (event->key() == Qt::Key_PageDown)
+    else if (key == Qt::Key_PageDown)
         m_scrollBar->setValue(toInt(value + page));
-    else if (event->key() == Qt::Key_Home)
+    else if (key == Qt::Key_Home)
         m_scrollBar->setValue(m_scrollBar->minimum());
-    else if (event->key() == Qt::Key_End)
+    else if (key == Qt::Key_End)
         m_scrollBar->setValue(m_scrollBar->maximum());
     else
         QFrame::keyPressEvent(event);

@@ -70,24 +70,23 @@ struct SlowPositions
         return i;
     }
 
+    bool isMany() const { return count() >= 1000; }
+
     int firstVisible(qint64 value)
     {
         const int i = firstBelow(value);
-        return i == 0 || i == count() ? 0 : i - 1;
+        if (i == count())
+            return isMany() && value > 0 ? i - 1 : 0;
+        return qMax(i - 1, 0);
     }
 
     qint64 total() const
     {
+        if (isMany() && last > 0) {
+            SlowPositions copy = *this; // so that nothing is found out by the question
+            return copy.top(count() - 1) + copy.height(count() - 1) + margin;
+        }
         return (qint64(count()) - 1) * spacing + qint64(average) * (count() - known) + 2 * margin + sum;
-    }
-
-    /** By a copy, so that nothing is found out by the question. */
-    qint64 totalAsPlaced() const
-    {
-        SlowPositions copy = *this;
-        if (last < 0)
-            return total();
-        return copy.top(count() - 1) + copy.height(count() - 1) + margin;
     }
 
     void forget() { last = -1; }

@@ -42,7 +42,7 @@ private Q_SLOTS:
             for (int step = 0; step < 250; ++step) {
                 const int choice = random.bounded(100);
                 if (choice < 6) {
-                    const int count = random.bounded(20) ? random.bounded(400) : 0;
+                    const int count = random.bounded(20) ? random.bounded(round % 4 ? 400 : 1400) : 0;
                     ours.resize(count ? count : -3);
                     slow.resize(count);
                 } else if (choice < 8) {
@@ -75,7 +75,6 @@ private Q_SLOTS:
                 QCOMPARE(ours.count(), slow.count());
                 QCOMPARE(ours.averageHeight(), slow.average);
                 QCOMPARE(ours.totalHeight(), slow.total());
-                QCOMPARE(ours.totalHeightAsPlaced(), slow.totalAsPlaced());
             }
             for (int i = 0; i < slow.count(); ++i) {
                 QCOMPARE(ours.height(i), slow.height(i));

@@ -15,9 +15,9 @@
 namespace {
 
 constexpr int chipSpace = 8;
-constexpr int splitHeight = 150;
-constexpr int narrow = 240;
-constexpr int wide = 480;
+constexpr int splitHeight = 160; // for the rows of the narrowest filter
+constexpr int narrowestFilter = 520;
+constexpr int widths[] = {220, 320, 480};
 
 QStringList chipTexts()
 {
@@ -63,7 +63,9 @@ void FlowPage::addSplit()
 {
     auto *splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
-    splitter->addWidget(makeChips(12));
+    QFrame *filter = makeChips(12);
+    filter->setMinimumWidth(narrowestFilter);
+    splitter->addWidget(filter);
     auto *rest = makeGround(Ground::Window);
     auto *column = new QVBoxLayout(rest);
     NVO::Label *text = makeCaption(
@@ -74,7 +76,9 @@ void FlowPage::addSplit()
     rest->setMinimumWidth(160);
     splitter->addWidget(rest);
     splitter->setSizes({600, 300});
-    splitter->setFixedHeight(splitHeight);
+    // The splitter takes its own limits from its children.
+    for (QWidget *side : QList<QWidget *>{filter, rest})
+        side->setFixedHeight(splitHeight);
     addSection(QStringLiteral("Schlagwörter als Filter"),
                QStringLiteral("Jedes Schlagwort ist so breit wie sein Text; was in einer Zeile keinen Platz "
                               "hat, beginnt die nächste."))
@@ -85,7 +89,7 @@ void FlowPage::addWidths()
 {
     auto *row = new QHBoxLayout;
     row->setSpacing(16);
-    for (const int width : {narrow, wide}) {
+    for (const int width : widths) {
         QFrame *chips = makeChips(9);
         chips->setFixedWidth(width);
         QVBoxLayout *column = withCaption(chips, QStringLiteral("%1 Pixel").arg(width));
@@ -94,7 +98,7 @@ void FlowPage::addWidths()
     }
     row->addStretch();
     addSection(QStringLiteral("Schmal und breit"),
-               QStringLiteral("Dieselben Schlagwörter in zwei Breiten; die Höhe folgt der Breite."))
+               QStringLiteral("Dieselben Schlagwörter in drei Breiten; die Höhe folgt der Breite."))
         ->addLayout(row);
 }
 
@@ -108,7 +112,7 @@ void FlowPage::addDirections()
         button->setText(text);
         flow->addWidget(button);
     }
-    QFrame *mirrored = makeChips(9);
+    QFrame *mirrored = makeChips(12);
     mirrored->setLayoutDirection(Qt::RightToLeft);
     QVBoxLayout *section =
         addSection(QStringLiteral("Schaltflächen und die andere Richtung"),
