@@ -15,6 +15,9 @@
 #include <nvo/CapsLockEventFilter.h>
 #include <nvo/CheckBox.h>
 #include <nvo/ComboBox.h>
+#include <nvo/CompleterData.h>
+#include <nvo/CompleterDataRow.h>
+#include <nvo/CompleterSourceModel.h>
 #include <nvo/Css.h>
 #include <nvo/DateEdit.h>
 #include <nvo/Dialog.h>
@@ -34,6 +37,7 @@
 #include <nvo/KeyState.h>
 #include <nvo/Label.h>
 #include <nvo/LineEdit.h>
+#include <nvo/LineEditWithButton.h>
 #include <nvo/Link.h>
 #include <nvo/MessageBox.h>
 #include <nvo/NumericEdit.h>
