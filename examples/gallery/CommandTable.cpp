@@ -38,6 +38,8 @@ constexpr std::array rows{
     Row{"Start", "Bausteine", "seite.ribbon", "Menüband", Button, Large, "M", Icon::Ribbon, "ribbon", "", "Das Menüband in mehreren Breiten und mit Tastenhinweisen."},
     Row{"Start", "Bausteine", "seite.schaltflaechen", "Schaltflächen", Button, Small, "L", Icon::Buttons, "schaltflaechen", "", "Schaltflächen in allen Zuständen."},
     Row{"Start", "Bausteine", "seite.beschriftungen", "Beschriftungen", Button, Small, "C", Icon::Labels, "beschriftungen", "", "Texte, Verweise und Kürzungen."},
+    Row{"Start", "Bausteine", "seite.links", "Links und Symbole", Button, Small, "I", Icon::Page, "links", "", "Links, und Schaltflächen aus einem Symbol."},
+    Row{"Start", "Bausteine", "seite.notices", "Hinweise", Button, Small, "H", Icon::Page, "notices", "", "Hinweise mit Symbol, Text und Verweisen."},
     Row{"Start", "Beleg", "beleg.neu", "Neuer<br>Beleg", Button, Large, "N", Icon::New, "", "Ctrl+N", "Legt einen leeren Beleg im laufenden Monat an."},
     Row{"Start", "Beleg", "beleg.oeffnen", "Öffnen", Button, Large, "O", Icon::Open, "", "Ctrl+O", "Öffnet einen erfassten Beleg."},
     Row{"Start", "Beleg", "beleg.speichern", "Speichern", Button, Large, "S", Icon::Save, "", "Ctrl+S", "Speichert den Beleg."},
@@ -46,7 +48,7 @@ constexpr std::array rows{
     Row{"Start", "Zwischenablage", "ablage.ausschneiden", "Ausschneiden", Button, Small, "X", Icon::Cut, "", "", "Legt die Auswahl in die Zwischenablage und entfernt sie."},
     Row{"Start", "Zwischenablage", "ablage.kopieren", "Kopieren", Button, Small, "K", Icon::Copy, "", "", "Legt eine Kopie der Auswahl in die Zwischenablage."},
 
-    Row{"Buchen", "Erfassen", "buchen.rechnung", "Rechnung<br>erfassen", Button, Large, "R", Icon::Invoice, "", "Ctrl+R", "Erfasst eine Ausgangsrechnung."},
+    Row{"Buchen", "Erfassen", "buchen.rechnung", "Rechnung<br>erfassen", Button, Large, "R", Icon::Invoice, "rechnung", "Ctrl+R", "Erfasst eine Ausgangsrechnung."},
     Row{"Buchen", "Erfassen", "buchen.gutschrift", "Gutschrift", Button, Small, "G", Icon::CreditNote, "", "", "Erfasst eine Gutschrift zu einer Rechnung."},
     Row{"Buchen", "Erfassen", "buchen.kasse", "Kassenbeleg", Button, Small, "K", Icon::Cash, "", "", "Bucht eine Einnahme oder Ausgabe der Kasse."},
     Row{"Buchen", "Erfassen", "buchen.lastschrift", "Lastschrift", Button, Small, "L", Icon::Transfer, "", "", "Zieht offene Beträge ein."},
@@ -88,6 +90,18 @@ constexpr std::array rows{
     Row{"Kontext", "Anlagen", "kontext.anhaengen", "Anhängen", Button, Large, "A", Icon::Attach, "", "", "Hängt dem Beleg eine Datei an."},
     Row{"Kontext", "Anlagen", "kontext.scannen", "Scannen", Button, Small, "C", Icon::Scan, "", "", "Liest eine Anlage ein."},
     Row{"Kontext", "Anlagen", "kontext.entfernen", "Entfernen", Button, Small, "E", Icon::Remove, "", "", "Entfernt die gewählte Anlage."},
+
+    Row{"Bausteine", "Eingabe", "seite.eingabefelder", "Eingabefelder", Button, Large, "E", Icon::Edit, "eingabefelder", "", "Felder für Texte, Beträge und Daten."},
+    Row{"Bausteine", "Eingabe", "seite.comboboxes", "Auswahllisten", Button, Small, "W", Icon::Page, "comboboxes", "", "Auswahllisten in zwei Größen."},
+    Row{"Bausteine", "Eingabe", "seite.suggestions", "Vorschläge", Button, Small, "V", Icon::Page, "suggestions", "", "Vorschläge beim Tippen."},
+    Row{"Bausteine", "Behälter", "seite.accordion", "Akkordeon", Button, Small, "A", Icon::Page, "accordion", "", "Teile, die sich auf- und zuklappen lassen."},
+    Row{"Bausteine", "Behälter", "seite.groups", "Gruppen", Button, Small, "G", Icon::Page, "groups", "", "Gruppen mit Legende und Zeilen."},
+    Row{"Bausteine", "Behälter", "seite.scroll", "Rollen", Button, Small, "R", Icon::Page, "scroll", "", "Rollbereiche, Bildlaufleisten und Pfeile."},
+    Row{"Bausteine", "Behälter", "seite.longlist", "Lange Liste", Button, Small, "L", Icon::Page, "longlist", "", "Eine Million Buchungen."},
+    Row{"Bausteine", "Behälter", "seite.flow", "Fluss", Button, Small, "F", Icon::Page, "flow", "", "Eine Anordnung, die fließt wie Text."},
+    Row{"Bausteine", "Fenster", "seite.dialogs", "Dialoge", Button, Small, "D", Icon::Page, "dialogs", "", "Dialoge im eigenen Rahmen."},
+    Row{"Bausteine", "Fenster", "seite.messages", "Meldungen", Button, Small, "M", Icon::Page, "messages", "", "Meldungen und Rückfragen."},
+    Row{"Bausteine", "Fenster", "seite.flyouts", "Flyouts", Button, Small, "Y", Icon::Page, "flyouts", "", "Fenster mit Zeiger, die ihrem Ziel folgen."},
 };
 // clang-format on
 
@@ -152,10 +166,13 @@ QString CommandEntry::plainText() const
 
 const QVector<TabEntry> &tabEntries()
 {
-    static const QVector<TabEntry> entries{
-        {QStringLiteral("Start"), QStringLiteral("S")},      {QStringLiteral("Buchen"), QStringLiteral("B")},
-        {QStringLiteral("Auswertung"), QStringLiteral("A")}, {QStringLiteral("Ansicht"), QStringLiteral("N")},
-        {QStringLiteral("Hilfe"), QStringLiteral("H")},      {contextTab, QStringLiteral("K")}};
+    static const QVector<TabEntry> entries{{QStringLiteral("Start"), QStringLiteral("S")},
+                                           {QStringLiteral("Bausteine"), QStringLiteral("T")},
+                                           {QStringLiteral("Buchen"), QStringLiteral("B")},
+                                           {QStringLiteral("Auswertung"), QStringLiteral("A")},
+                                           {QStringLiteral("Ansicht"), QStringLiteral("N")},
+                                           {QStringLiteral("Hilfe"), QStringLiteral("H")},
+                                           {contextTab, QStringLiteral("K")}};
     return entries;
 }
 

@@ -169,8 +169,11 @@ void GalleryRibbon::closePopup() const
 void GalleryRibbon::markPage(const QString &page)
 {
     for (const CommandEntry &entry : commandEntries()) {
-        if (!entry.page.isEmpty())
-            m_commands.value(entry.name)->setChecked(entry.page == page);
+        if (entry.page.isEmpty())
+            continue;
+        m_commands.value(entry.name)->setChecked(entry.page == page);
+        if (entry.page == page)
+            showTabByTitle(entry.tab);
     }
 }
 

@@ -23,7 +23,7 @@ public:
 
     explicit GalleryRibbon(Use use, QWidget *parent = nullptr);
 
-    /** Marks the command of the page that is shown. */
+    /** Marks the command of the page that is shown, and shows its tab. */
     void markPage(const QString &page);
     /** Marks the command of the theme that is shown. */
     void markTheme(const QString &theme);
