@@ -71,6 +71,7 @@ constexpr Goal goals[] = {
     {"list/bottom", "thousand", 1.25},
     {"list/first_paint", "floor", 1.5},
     {"list/memory", "floor", 1.3},
+    {"overview/tiles", "frames", 1.1},
     {"ribbon/resize", "asked_anew", 0.2},
     {"ribbon/resize", "tool_bars", none},
     {"ribbon/resize_painted", "tool_bars", none},

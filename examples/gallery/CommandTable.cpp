@@ -31,6 +31,7 @@ struct Row
 
 // clang-format off
 constexpr std::array rows{
+    Row{"Start", "Übersicht", "seite.startseite", "Startseite", Button, Large, "Q", Icon::Modern, "startseite", "", "Kacheln, mit denen die Arbeit beginnt."},
     Row{"Start", "Grundlagen", "seite.farben", "Farben", Button, Large, "F", Icon::Colors, "farben", "", "Die Farben des Themas mit ihren Namen."},
     Row{"Start", "Grundlagen", "seite.schriften", "Schriften", Button, Small, "T", Icon::Fonts, "schriften", "", "Schriftschnitte und Größen."},
     Row{"Start", "Grundlagen", "seite.bilder", "Bilder", Button, Small, "B", Icon::Images, "bilder", "", "Bilder für jede Auflösung."},

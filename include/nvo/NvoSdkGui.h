@@ -41,6 +41,10 @@
 #include <nvo/Link.h>
 #include <nvo/MessageBox.h>
 #include <nvo/NumericEdit.h>
+#include <nvo/OverviewButton.h>
+#include <nvo/OverviewButton3Children.h>
+#include <nvo/OverviewButtonBase.h>
+#include <nvo/OverviewButtonWithWidget.h>
 #include <nvo/Palette.h>
 #include <nvo/PeriodEdit.h>
 #include <nvo/Pixmap.h>

@@ -46,7 +46,8 @@ private Q_SLOTS:
             "arrow_right_dark_6x12 checkmark_16 checkmark_hell_16 close_16 close_hell_16 scrollarrow_up "
             "scrollarrow_up_hell scrollarrow_up_error scrollarrow_down scrollarrow_down_hell "
             "checkbox_check checkbox_check_disabled checkbox_partial checkbox_partial_disabled "
-            "combobox_arrow combobox_arrow_disabled "
+            "combobox_arrow combobox_arrow_disabled tile_accounting tile_payroll tile_receipts tile_bank "
+            "tile_tax tile_clients tile_new_hell "
             "scrollarrow_down_error sym_minus sym_plus aufhoehe_16 aufbreite_16 macclose";
         for (const QString &name : names.split(' ')) {
             const QImage plain(":/" + name);
@@ -136,6 +137,7 @@ private Q_SLOTS:
                                            NVO::ElementLink,
                                            NVO::ElementMessageBox,
                                            NVO::ElementNumericEdit,
+                                           NVO::ElementOverviewButton,
                                            NVO::ElementPeriodEdit,
                                            NVO::ElementScrollBar,
                                            NVO::ElementScrollButton,

@@ -2,6 +2,7 @@
 
 #include <nvo/AbstractButton.h>
 #include <nvo/Button.h>
+#include <nvo/OverviewButtonBase.h>
 
 #include <QApplication>
 #include <QEnterEvent>
@@ -90,6 +91,8 @@ void ForcedState::press()
     button->setDown(true);
     if (auto *houseButton = qobject_cast<NVO::Button *>(button))
         houseButton->setShadowEnabled(true); // lets the shadow follow the state
+    if (qobject_cast<NVO::OverviewButtonBase *>(button))
+        enter(); // lets all of its looks follow the state
 }
 
 void ForcedState::hold()
@@ -104,6 +107,10 @@ void ForcedState::followFocus(QWidget *focusWidget)
 {
     m_widget->setFocusProxy(focusWidget);
     m_widget->update();
+    if (qobject_cast<NVO::OverviewButtonBase *>(m_widget)) {
+        QEvent leaveEvent(QEvent::Leave); // a tile tells those around it when it looks at its state
+        QApplication::sendEvent(m_widget, &leaveEvent);
+    }
 }
 
 bool ForcedState::eventFilter(QObject *, QEvent *event)
