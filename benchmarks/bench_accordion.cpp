@@ -22,7 +22,7 @@ constexpr int frames = 12; // of an animation of 200 milliseconds
 
 QWidget *makeRows(int count)
 {
-    auto *rows = new QWidget;
+    auto *rows = new QFrame;
     auto *layout = new QVBoxLayout(rows);
     for (int i = 0; i < count; ++i)
         layout->addWidget(new QLabel(QStringLiteral("Zeile %1").arg(i)));
@@ -62,13 +62,22 @@ Column ours(int rows)
             }};
 }
 
+/** The same look, without the parts between column and contents. */
+QString flatSheet()
+{
+    return NVO::Css::instance()
+        .css(NVO::ElementAccordion)
+        .replace(QLatin1String("> * > "), QLatin1String("> "))
+        .replace(QLatin1String("NVO--AccordionHeader"), QLatin1String("QPushButton"))
+        .replace(QLatin1String("NVO--AccordionContent"), QLatin1String("#content"));
+}
+
 /** The same headers above contents whose height is cut: they lay their rows out in what is left. */
 Column maximumHeight(int rows)
 {
     auto column = std::make_unique<QFrame>();
-    column->setStyleSheet(NVO::Css::instance()
-                              .css(NVO::ElementAccordion)
-                              .replace(QLatin1String("NVO--AccordionHeader"), QLatin1String("QPushButton")));
+    column->setProperty("style", QStringLiteral("Normal"));
+    column->setStyleSheet(flatSheet());
     auto *layout = new QVBoxLayout(column.get());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -83,6 +92,7 @@ Column maximumHeight(int rows)
         arrows << button->findChild<NVO::AccordionIndicator *>();
         layout->addWidget(button);
         contents << makeRows(rows);
+        contents.last()->setObjectName(QStringLiteral("content"));
         heights << contents.last()->sizeHint().height();
         layout->addWidget(contents.last());
         contents.last()->hide();

@@ -18,6 +18,8 @@ namespace NVO {
  * The look comes from the sheet of ElementAccordion, which selects on the dynamic property "style", the key
  * of the AccordionStyle. Parts that are deleted or get another parent leave the accordion by themselves.
  *
+ * Parts share the room that an accordion has to spare, also the closed ones: put a stretch below it.
+ *
  * Null, and parts that were not added, are ignored everywhere.
  */
 class NVO_EXPORT Accordion : public QFrame

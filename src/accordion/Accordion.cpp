@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <array>
 
 namespace NVO {
 
@@ -27,7 +28,7 @@ struct StyleValues
 };
 
 // In the order of AccordionStyle.
-constexpr StyleValues styleTable[] = {
+constexpr std::array<StyleValues, 8> styleTable{{
     {1, 0, true, 0, inVariant1},   // Normal
     {0, 0, false, 0, never},       // Inline
     {1, 1, false, 10, inVariant1}, // Backstage
@@ -36,7 +37,7 @@ constexpr StyleValues styleTable[] = {
     {1, 0, false, 10, inVariant1}, // VaSt
     {1, 0, false, 10, inVariant1}, // MarkAsRead
     {1, 0, false, 0, never},       // Infocenter
-};
+}};
 
 const StyleValues &valuesOf(Accordion::AccordionStyle style)
 {

@@ -8,6 +8,7 @@
 #include <QPropertyAnimation>
 #include <QVBoxLayout>
 
+#include <array>
 #include <cmath>
 
 namespace NVO {
@@ -29,10 +30,10 @@ struct Target
 };
 
 // In the order of AccordionState.
-constexpr Target targets[] = {
+constexpr std::array<Target, 2> targets{{
     {AnimatedAccordionState::Expanding, AnimatedAccordionState::Expanded, 0.0},
     {AnimatedAccordionState::Hiding, AnimatedAccordionState::Hidden, 100.0},
-};
+}};
 
 const Target &targetOf(AccordionState state)
 {

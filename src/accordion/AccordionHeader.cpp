@@ -39,7 +39,7 @@ public:
 
     QString text(QAccessible::Text type) const override
     {
-        const QString own = AccessibleButton::text(type);
+        QString own = AccessibleButton::text(type);
         QWidget *content = static_cast<AccordionHeader *>(button())->headerWidget();
         if (!own.isEmpty() || !content || (type != QAccessible::Name && type != QAccessible::Description))
             return own;
@@ -78,12 +78,12 @@ void AccordionHeader::setHeader(QWidget *widget)
 
 QSize AccordionHeader::sizeHint() const
 {
-    return QWidget::sizeHint();
+    return QWidget::sizeHint(); // NOLINT(bugprone-parent-virtual-call): its layout decides
 }
 
 QSize AccordionHeader::minimumSizeHint() const
 {
-    return QWidget::minimumSizeHint();
+    return QWidget::minimumSizeHint(); // NOLINT(bugprone-parent-virtual-call)
 }
 
 bool AccordionHeader::hasHeightForWidth() const

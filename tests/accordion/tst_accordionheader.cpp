@@ -180,6 +180,16 @@ private Q_SLOTS:
         QAccessibleInterface *described = QAccessible::queryAccessibleInterface(button);
         QCOMPARE(described->text(QAccessible::Name), QString("Konten & Karten"));
         QCOMPARE(described->text(QAccessible::Description), QString("3"));
+        for (const bool open : {false, true, false}) {
+            part.setState(open ? AccordionState::Expanded : AccordionState::Hidden);
+            QVERIFY(described->state().expandable);
+            QCOMPARE(bool(described->state().expanded), open);
+            QCOMPARE(bool(described->state().collapsed), !open);
+        }
+        part.setHeader(new QLabel("Frei"));
+        QCOMPARE(described->text(QAccessible::Name), QString("Frei"));
+        part.setHeader(nullptr);
+        QCOMPARE(described->text(QAccessible::Name), QString());
         button->setAccessibleName("Eigener");
         QCOMPARE(described->text(QAccessible::Name), QString("Eigener"));
     }
