@@ -94,6 +94,7 @@ constexpr std::array rows{
 
     Row{"Bausteine", "Eingabe", "seite.eingabefelder", "Eingabefelder", Button, Large, "E", Icon::Edit, "eingabefelder", "", "Felder für Texte, Beträge und Daten."},
     Row{"Bausteine", "Eingabe", "seite.comboboxes", "Auswahllisten", Button, Small, "W", Icon::Page, "comboboxes", "", "Auswahllisten in zwei Größen."},
+    Row{"Bausteine", "Eingabe", "seite.overviewcombo", "Große Auswahl", Button, Small, "U", Icon::Page, "overviewcombo", "", "Eine Auswahl mit mehrzeiligen Einträgen."},
     Row{"Bausteine", "Eingabe", "seite.suggestions", "Vorschläge", Button, Small, "V", Icon::Page, "suggestions", "", "Vorschläge beim Tippen."},
     Row{"Bausteine", "Behälter", "seite.accordion", "Akkordeon", Button, Small, "A", Icon::Page, "accordion", "", "Teile, die sich auf- und zuklappen lassen."},
     Row{"Bausteine", "Behälter", "seite.groups", "Gruppen", Button, Small, "G", Icon::Page, "groups", "", "Gruppen mit Legende und Zeilen."},

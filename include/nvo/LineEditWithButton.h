@@ -23,7 +23,7 @@ class LineEdit;
  * contain the text, which is marked there. It closes when the text is gone, with the cross, with a further
  * click on the bulb and once a row is chosen. Losing the focus does not close it. It never takes the focus,
  * follows when the field or its window moves, opens over modal dialogs too, and is gone when the field is
- * hidden or dies. A hidden field opens none.
+ * hidden, disabled or dies. A hidden or disabled field opens none.
  *
  * The look comes from the sheet of ElementLineEditWithButton, and below that from those of ElementLineEdit
  * and ElementButton. The object names are "lineEdit" and "button". Both carry the dynamic property "style":
@@ -51,10 +51,10 @@ public:
     /** Shows the bulb, which is hidden at first. */
     void showButton();
 
-    /** Opens the popup, or places it anew if it is open. A hidden field does nothing. */
+    /** Opens the popup, or places it anew if it is open. A hidden or disabled field does nothing. */
     void showCompleter();
 
-    /** Sets the text; one that is not empty opens the popup of a visible field. */
+    /** Sets the text; one that is not empty opens the popup of a visible and enabled field. */
     void setUsername(const QString &text);
     QString text() const;
 

@@ -45,6 +45,7 @@
 #include <nvo/OverviewButton3Children.h>
 #include <nvo/OverviewButtonBase.h>
 #include <nvo/OverviewButtonWithWidget.h>
+#include <nvo/OverviewComboBox.h>
 #include <nvo/Palette.h>
 #include <nvo/PeriodEdit.h>
 #include <nvo/Pixmap.h>

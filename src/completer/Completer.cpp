@@ -16,6 +16,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace NVO {
 
@@ -166,10 +167,10 @@ void Completer::cellClicked(const QModelIndex &index)
         expandAll();
     } else if (isRemovable || type == CompleterDataRow::Data) {
         const QPointer<Completer> alive(this);
-        m_inClick = true;
+        const bool wasInClick = std::exchange(m_inClick, true);
         Q_EMIT suggestionClicked(m_sourceModel->plainText(source.siblingAtColumn(0)));
         if (alive)
-            m_inClick = false;
+            m_inClick = wasInClick;
     }
 }
 

@@ -40,6 +40,10 @@ CompleterView::CompleterView(QWidget *parent)
     setItemsExpandable(false);
     setUniformRowHeights(true); // so that no row has to be measured but the first
     setSortingEnabled(true);
+    // The rows paint no selection; the view must not paint one in the indentation beside them.
+    QPalette colors;
+    colors.setBrush(QPalette::Highlight, Qt::transparent);
+    setPalette(colors);
 }
 
 int CompleterView::dataRowCount() const

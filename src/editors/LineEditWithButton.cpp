@@ -150,6 +150,8 @@ void LineEditWithButton::setDataForCompleter(const CompleterData &suggestions)
     if (m_completer)
         m_completer->setData(suggestions);
     showButton();
+    if (m_completer && m_completer->isVisible())
+        placeCompleter();
 }
 
 void LineEditWithButton::showButton()
@@ -160,7 +162,7 @@ void LineEditWithButton::showButton()
 
 void LineEditWithButton::showCompleter()
 {
-    if (!m_completer || !isVisible())
+    if (!m_completer || !isVisible() || !isEnabled())
         return;
     placeCompleter();
     m_completer->standOn(window());

@@ -181,6 +181,8 @@ private Q_SLOTS:
         QCOMPARE(state(), open);
         field.setEnabled(false);
         QVERIFY(!field.popup->isVisible());
+        field.setUsername("ab");
+        QVERIFY(!field.popup->isVisible());
     }
 
     void captions()
@@ -292,6 +294,8 @@ private Q_SLOTS:
         QVERIFY(isBelow());
         field.setGeometry(40, 30, 210, 25);
         QVERIFY(isBelow());
+        field.setDataForCompleter(makeRows(3, {QString(90, 'm'), "x"}));
+        QVERIFY(isBelow());
     }
 
     void choosing_data()
@@ -320,6 +324,25 @@ private Q_SLOTS:
             QVERIFY(field.edit->actions().value(0)->isVisible());
             QVERIFY(field.list->model()->index(0, 0, field.list->model()->index(0, 0)).data() != name);
         }
+    }
+
+    // A row that was clicked stays the selected one, of which nothing is seen.
+    void selectionIsNotPainted()
+    {
+        CompleterField field;
+        field.show();
+        field.setDataForCompleter(makeNames());
+        const auto picture = [&field] {
+            field.showCompleter();
+            QTest::mouseMove(field.popup, {5, 5});
+            QApplication::processEvents();
+            return field.popup->grab().toImage();
+        };
+        field.setUsername("keller");
+        const QImage before = picture();
+        field.click("keller", 0);
+        QVERIFY(field.list->selectionModel()->hasSelection());
+        QCOMPARE(picture(), before);
     }
 
     void removing()
@@ -409,6 +432,21 @@ private Q_SLOTS:
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             QVERIFY(!dying && !itsPopup);
         }
+        auto *outer = new CompleterField; // in a slot, after a further click there
+        outer->setDataForCompleter(makeNames());
+        outer->show();
+        outer->showCompleter();
+        int clicks = 0;
+        connect(outer, &CompleterField::suggestionChosen, this, [&clicks, outer] {
+            if (++clicks == 2)
+                return;
+            outer->setUsername("e");
+            outer->click("brandt", 0);
+            delete outer;
+        });
+        outer->click("keller", 0);
+        QCOMPARE(clicks, 2);
+
         CompleterField survivor;
         survivor.show();
         delete survivor.popup;

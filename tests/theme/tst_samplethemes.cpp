@@ -138,6 +138,7 @@ private Q_SLOTS:
                                            NVO::ElementMessageBox,
                                            NVO::ElementNumericEdit,
                                            NVO::ElementOverviewButton,
+                                           NVO::ElementOverviewComboBox,
                                            NVO::ElementPeriodEdit,
                                            NVO::ElementScrollBar,
                                            NVO::ElementScrollButton,
