@@ -25,7 +25,8 @@ Edit qtField(NVO::Element element, const char *className, const QString &mask)
 {
     auto field = std::make_unique<QLineEdit>();
     field->setInputMask(mask);
-    field->setProperty("style", "Normal");
+    for (const char *selectedOn : {"style", "lineEditStyle"})
+        field->setProperty(selectedOn, "Normal");
     field->setStyleSheet(QString(NVO::Css::instance().css(element)).replace(className, "QLineEdit"));
     NVO::installFieldShadow(field.get());
     return field;

@@ -107,6 +107,7 @@ private:
     bool isEmpty() const;
     bool isComplete();
     void clearUnlessComplete();
+    bool showsDateInMask();
     void showMask();
     void showPlaceholder();
     void stepNumber(int delta);

@@ -25,7 +25,10 @@ public:
         DataRemovable = 4, ///< an entry that the user can take out of the list
     };
 
-    /** Appends a column that shows \a text. The list makes no use of \a value; pass an empty string. */
+    /**
+     * Appends a column that shows \a text: as rich text if Qt::mightBeRichText() says so, else as it stands.
+     * The list makes no use of \a value; pass an empty string.
+     */
     void addColumn(const QString &text, const QVariant &value);
 
     int columnCount() const;

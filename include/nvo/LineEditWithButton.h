@@ -63,8 +63,8 @@ public:
 
 Q_SIGNALS:
     /**
-     * The user has clicked on a suggestion. \a p_text is what its first column shows, and now the text of the
-     * field.
+     * The user has clicked on a suggestion. \a p_text is the text of its first column, without marks, and now
+     * the text of the field, as far as the maximum length of the line edit allows.
      */
     void suggestionChosen(const QString &p_text);
 

@@ -95,6 +95,7 @@ void Completer::resizeColumns()
         m_view->resizeColumnToContents(column);
         m_contentWidths.append(header->sectionSize(column));
     }
+    m_measuredFont = m_view->font(); // polished by now
     m_fitted = {};
 }
 
@@ -137,7 +138,10 @@ void Completer::prepareToShow()
         layout()->invalidate();
         layout()->activate();
     }
-    adjustWidth();
+    if (m_view->font() != m_measuredFont)
+        setData(m_sourceModel->getCompleterData());
+    else
+        adjustWidth();
 }
 
 void Completer::standOn(QWidget *window)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QPair>
 #include <QVector>
 #include <QWidget>
@@ -39,7 +40,10 @@ public:
     /** As wide as the contents need and, if that is less, as wide as the field. */
     void adjustWidth();
 
-    /** The same, which needs the height of the list, for a popup that may not be on the screen yet. */
+    /**
+     * The same, which needs the height of the list, for a popup that may not be on the screen yet. If the
+     * font has changed the columns are measured anew.
+     */
     void prepareToShow();
 
     /** Makes the popup belong to \a window, or a modal dialog would keep the mouse from it. */
@@ -68,7 +72,8 @@ private:
     int m_targetWidth = 0;
     QString m_matchingText;
     QVector<int> m_contentWidths; // of the columns, as measured
-    QPair<int, int> m_fitted;     // the target width and the room for the scroll bar they were fitted to
+    QFont m_measuredFont;
+    QPair<int, int> m_fitted; // the target width and the room for the scroll bar they were fitted to
     bool m_inClick = false;
 };
 

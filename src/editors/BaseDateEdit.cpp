@@ -161,6 +161,8 @@ QValidator::State BaseDateEdit::validatePart(const QString &text, Flags flags, i
 
 void BaseDateEdit::updateMaskOrPlaceholder()
 {
+    if (showsDateInMask())
+        return; // nearly always when the focus comes or goes
     clearUnlessComplete();
     // Asked anew each time, because a slot may answer the empty text with a date or move the focus.
     if (isComplete() || hasFocus())
@@ -227,13 +229,17 @@ void BaseDateEdit::clearUnlessComplete()
         clear();
 }
 
+bool BaseDateEdit::showsDateInMask()
+{
+    return placeholderText().isEmpty() && inputMask() == inputMaskFor(m_flags, m_fixedYear) && isComplete();
+}
+
 void BaseDateEdit::showMask()
 {
     setPlaceholderText(QString());
-    const QString mask = inputMaskFor(m_flags, m_fixedYear);
     // A mask that is set again takes cursor, selection and undo with it, and it loses a date: Qt puts what
     // shows through the mask like typed keys, and the digits behind the free place of "5_.3_.2019" slide on.
-    if (inputMask() == mask && isComplete())
+    if (showsDateInMask())
         return;
     const QString typed = DateText::withShortYear(text(), m_fixedYear);
     if (typed != displayText() && isComplete()) {
@@ -243,7 +249,7 @@ void BaseDateEdit::showMask()
         }
         setText(typed);
     }
-    setInputMask(mask);
+    setInputMask(inputMaskFor(m_flags, m_fixedYear));
 }
 
 void BaseDateEdit::showPlaceholder()

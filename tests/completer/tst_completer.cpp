@@ -390,6 +390,15 @@ private Q_SLOTS:
         field.setDataForCompleter(makeNames());
         field.showCompleter();
         QCOMPARE(widths(*field.list->header()), narrowed);
+        field.setUsername("kel");
+        QFont larger = field.list->font();
+        larger.setPixelSize(QFontInfo(larger).pixelSize() + 10);
+        field.popup->setFont(larger);
+        field.showCompleter();
+        const QVector<int> widened = widths(*field.list->header());
+        QVERIFY(widened != narrowed && field.cell("keller").data() == "<b>kel</b>ler");
+        field.setDataForCompleter(makeNames());
+        QCOMPARE(widths(*field.list->header()), widened);
         field.setDataForCompleter(makeRows(4, {}));
         field.setUsername("a");
         QVERIFY(field.popup->isVisible());
