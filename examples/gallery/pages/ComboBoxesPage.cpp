@@ -9,7 +9,6 @@
 
 #include <QAbstractItemView>
 #include <QGridLayout>
-#include <QLabel>
 #include <QMetaEnum>
 #include <QStringListModel>
 #include <QVBoxLayout>
@@ -74,17 +73,8 @@ QVBoxLayout *makeOpenPicture(NVO::ComboBox *box, int rowHeight, int rows)
     QAbstractItemView *list = box->view();
     list->setFixedSize(listWidth, rows * rowHeight + 2 * listBorder);
     list->setCurrentIndex(box->model()->index(1, 0));
-    auto *picture = new QLabel;
-    picture->setPixmap(list->grab());
-    picture->setFixedSize(list->size());
     box->setFixedWidth(listWidth);
-    ForcedState::apply(box, ForcedState::Focus); // the look of an open one
-    auto *column = new QVBoxLayout;
-    column->setSpacing(0);
-    column->addWidget(box);
-    column->addWidget(picture);
-    column->addStretch();
-    return column;
+    return makeOpenBox(box, list);
 }
 
 } // namespace

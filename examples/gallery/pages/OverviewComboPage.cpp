@@ -9,7 +9,6 @@
 
 #include <QAbstractItemView>
 #include <QGridLayout>
-#include <QLabel>
 #include <QStandardItemModel>
 #include <QVBoxLayout>
 
@@ -92,16 +91,7 @@ QVBoxLayout *makeOpenPicture(Fill fill)
     QWidget *frame = list->parentWidget();
     frame->setFixedSize(boxWidth, height + 2 * listBorder);
     list->setCurrentIndex(box->model()->index(1, 0));
-    auto *picture = new QLabel;
-    picture->setPixmap(frame->grab());
-    picture->setFixedSize(frame->size());
-    ForcedState::apply(box, ForcedState::Focus); // the look of an open one
-    auto *column = new QVBoxLayout;
-    column->setSpacing(0);
-    column->addWidget(box);
-    column->addWidget(picture);
-    column->addStretch();
-    return column;
+    return makeOpenBox(box, frame);
 }
 
 } // namespace

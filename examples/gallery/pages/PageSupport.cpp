@@ -1,12 +1,16 @@
 #include "pages/PageSupport.h"
 
+#include "pages/ForcedState.h"
+
 #include <nvo/Css.h>
 #include <nvo/Label.h>
 #include <nvo/Pixmap.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QEvent>
 #include <QFrame>
+#include <QLabel>
 #include <QVBoxLayout>
 #include <QVariant>
 
@@ -58,6 +62,20 @@ QVBoxLayout *withCaption(QWidget *widget, const QString &caption)
     layout->addWidget(widget, 0, Qt::AlignLeft);
     layout->addWidget(makeCaption(caption));
     return layout;
+}
+
+QVBoxLayout *makeOpenBox(QComboBox *box, QWidget *list)
+{
+    auto *picture = new QLabel;
+    picture->setPixmap(list->grab());
+    picture->setFixedSize(list->size());
+    ForcedState::apply(box, ForcedState::Focus); // the look of an open one
+    auto *column = new QVBoxLayout;
+    column->setSpacing(0);
+    column->addWidget(box);
+    column->addWidget(picture);
+    column->addStretch();
+    return column;
 }
 
 QPixmap themeImage(const QString &name)

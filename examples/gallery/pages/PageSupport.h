@@ -5,6 +5,7 @@
 #include <QPixmap>
 #include <QString>
 
+class QComboBox;
 class QFrame;
 class QVBoxLayout;
 class QWidget;
@@ -37,6 +38,9 @@ QFrame *makeGround(Ground ground);
 
 /** \a widget above its caption, both at the left. */
 QVBoxLayout *withCaption(QWidget *widget, const QString &caption);
+
+/** \a box as it looks while it is open, above a picture of \a list. */
+QVBoxLayout *makeOpenBox(QComboBox *box, QWidget *list);
 
 /** An image of the theme by its name, for the ratio of the screen; null if there is none. */
 QPixmap themeImage(const QString &name);
