@@ -209,6 +209,7 @@ QScrollArea *MainWindow::pageView(int index)
         view = new QScrollArea;
         view->setObjectName(QStringLiteral("pageView"));
         view->setWidgetResizable(true);
+        view->setAccessibleName(pageEntries().at(index).title);
         view->setWidget(pageEntries().at(index).create());
         m_pages->addWidget(view);
     }

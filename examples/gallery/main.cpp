@@ -1,10 +1,9 @@
 #include "Gallery.h"
+#include "GalleryApplication.h"
 #include "Options.h"
 #include "PageRegistry.h"
 #include "Screenshots.h"
 
-#include <QApplication>
-#include <QLocale>
 #include <QTextStream>
 
 namespace {
@@ -49,15 +48,7 @@ int run(const Options &options)
 
 int main(int argc, char *argv[])
 {
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    // The sheets build on one style, so that the application looks alike on every desktop.
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    const QApplication application(argc, argv);
-    // Amounts and calendars are German, whatever the desktop speaks.
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    QApplication::setApplicationName(QStringLiteral("nvo_gallery"));
-    QApplication::setApplicationDisplayName(QStringLiteral("NvoSdkGui Galerie"));
+    const GalleryApplication application(argc, argv);
 
     QString error;
     const Options options = Options::parse(QApplication::arguments(), &error);

@@ -82,6 +82,7 @@ private:
     void addClearAction();
     void addButton();
     void connectParts();
+    void nameLineEdit();
     void setStyle(QWidget *widget, const char *name, const QVariant &value);
     void setStyles(const QString &style);
     void closeCompleter();

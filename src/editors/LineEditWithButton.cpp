@@ -7,6 +7,7 @@
 #include <nvo/LineEdit.h>
 #include <nvo/Pixmap.h>
 
+#include <QAccessible>
 #include <QAction>
 #include <QBoxLayout>
 #include <QEvent>
@@ -279,6 +280,8 @@ void LineEditWithButton::unwatchAncestors()
 
 bool LineEditWithButton::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == m_lineEdit && event->type() == QEvent::FocusIn)
+        nameLineEdit();
     const bool isFocusEvent = event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut;
     if (watched == m_lineEdit && isFocusEvent && m_button->isVisible()) {
         setStyles(event->type() == QEvent::FocusIn ? focusIn() : focusOut());
@@ -295,9 +298,19 @@ bool LineEditWithButton::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
+/** The name and the label are given to the whole field; assistive technology meets the line edit in it. */
+void LineEditWithButton::nameLineEdit()
+{
+    const QString name = QAccessible::queryAccessibleInterface(this)->text(QAccessible::Name);
+    if (!name.isEmpty())
+        m_lineEdit->setAccessibleName(name);
+}
+
 bool LineEditWithButton::event(QEvent *event)
 {
     const bool result = QWidget::event(event);
+    if (event->type() == QEvent::Show)
+        nameLineEdit();
     if (event->type() == QEvent::Hide || (event->type() == QEvent::EnabledChange && !isEnabled()))
         closeCompleter();
     return result;

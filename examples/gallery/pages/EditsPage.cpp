@@ -227,6 +227,9 @@ QGridLayout *makeMatrix(const Kind &kind)
         for (const Shown shown : shownStates) {
             QWidget *field = kind.make(shown != Shown::Empty);
             field->setMinimumWidth(1); // the columns are of one width
+            field->setAccessibleName(
+                QStringLiteral("%1, %2, %3")
+                    .arg(QString::fromUtf8(kind.name), keyOf(look.style), titleOf(shown)));
             setLook(field, look);
             show(field, shown);
             grid->addWidget(field, row, int(shown) + 1);
@@ -288,6 +291,8 @@ void EditsPage::addFamily()
             QWidget *field = kinds().at(i).make(true);
             field->setMinimumWidth(1);
             setLook(field, look);
+            field->setAccessibleName(
+                QStringLiteral("%1, %2").arg(QString::fromUtf8(kinds().at(i).name), keyOf(look.style)));
             grid->addWidget(field, row, i + 1);
         }
     }
@@ -335,11 +340,13 @@ void EditsPage::addDateForms()
         for (const bool filled : {true, false}) {
             NVO::DateEdit *field = makeDate(filled, form.flags, form.fixedYear);
             field->setMinimumWidth(formWidth);
+            field->setAccessibleName(QString::fromUtf8(form.name));
             grid->addWidget(field, row, column++);
         }
         for (const bool filled : {true, false}) {
             NVO::PeriodEdit *field = makePeriod(filled, form.flags, form.fixedYear);
             field->setMinimumWidth(periodWidth);
+            field->setAccessibleName(QString::fromUtf8(form.name));
             grid->addWidget(field, row, column++);
         }
     }
@@ -373,6 +380,7 @@ void EditsPage::addNumberForms()
     for (const Form &form : forms) {
         NumericEdit *field = makeNumber(form.value, form.decimals, QString::fromUtf8(form.unit), form.flags);
         field->setMinimumWidth(formWidth);
+        field->setAccessibleName(QString::fromUtf8(form.name));
         connect(locked, &QAbstractButton::toggled, field, &NumericEdit::setReadOnly);
         grid->addWidget(field, 0, column);
         grid->addWidget(makeCaption(QString::fromUtf8(form.name)), 1, column++);
@@ -414,6 +422,7 @@ void EditsPage::addPassword()
     field->setEchoMode(QLineEdit::Password);
     field->setText(QStringLiteral("geheim"));
     field->setMinimumWidth(fieldWidth);
+    field->setAccessibleName(QStringLiteral("Kennwort"));
     NVO::Label *off = makeCaption(QStringLiteral("Die Feststelltaste ist aus."), NVO::Font::DEFAULT);
     NVO::Label *on =
         makeLabel(QStringLiteral("Die Feststelltaste ist aktiv."), NVO::Font::DEFAULT, LabelRole::Error);

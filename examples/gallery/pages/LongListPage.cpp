@@ -154,6 +154,7 @@ void LongListPage::addEmptyList()
 {
     auto *list = new EmptyList;
     styleList(list);
+    list->setAccessibleName(QStringLiteral("Leeres Journal"));
     list->setMinimumHeight(emptyListHeight);
     auto *layout = new QVBoxLayout;
     layout->addStretch();

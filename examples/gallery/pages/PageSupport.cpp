@@ -60,7 +60,9 @@ QVBoxLayout *withCaption(QWidget *widget, const QString &caption)
     auto *layout = new QVBoxLayout;
     layout->setSpacing(4);
     layout->addWidget(widget, 0, Qt::AlignLeft);
-    layout->addWidget(makeCaption(caption));
+    NVO::Label *label = makeCaption(caption);
+    label->setBuddy(widget);
+    layout->addWidget(label);
     return layout;
 }
 

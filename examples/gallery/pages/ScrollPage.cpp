@@ -173,6 +173,7 @@ QVBoxLayout *framed(QScrollArea *area, Ground ground, int top, const QString &ca
     frame->setFixedSize(areaSize + QSize(2, 1 + top));
     area->setParent(frame);
     area->move(1, top);
+    area->setAccessibleName(QStringLiteral("Rollbereich ") + caption);
     return withCaption(frame, caption);
 }
 

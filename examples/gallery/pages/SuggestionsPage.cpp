@@ -114,6 +114,7 @@ NVO::LineEditWithButton *makeField(const QString &placeholder)
 {
     auto *field = new NVO::LineEditWithButton;
     field->setFixedWidth(fieldWidth);
+    field->setAccessibleName(placeholder);
     field->findChild<NVO::LineEdit *>()->setPlaceholderText(placeholder);
     return field;
 }
@@ -190,6 +191,7 @@ QVBoxLayout *withPopup(const NVO::CompleterData &suggestions, const QString &typ
     NVO::LineEditWithButton *field = makeForced(ForcedState::Focus, true);
     field->setFixedWidth(fieldWidth);
     field->setUsername(typed);
+    field->setAccessibleName(QStringLiteral("Benutzer"));
     auto *picture = new QLabel;
     picture->setPixmap(popupPicture(suggestions, typed, hovered));
     auto *column = new QVBoxLayout;
