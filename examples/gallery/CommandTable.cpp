@@ -77,7 +77,7 @@ constexpr std::array rows{
     Row{"Ansicht", "Schrift", "schrift.kleiner", "Kleiner", Button, Small, "L", Icon::Smaller, "", "Ctrl+-", "Alle Schriften um einen Pixel kleiner."},
     Row{"Ansicht", "Schrift", "schrift.normal", "Zurücksetzen", Button, Small, "Z", Icon::Reset, "", "Ctrl+0", "Alle Schriften in der Größe des Themas."},
     Row{"Ansicht", "Einblenden", "ansicht.kontext", "Register Kontext", CheckBox, Small, "R", Icon::Options, "", "", "Zeigt ein Register, das zur Auswahl gehört."},
-    Row{"Ansicht", "Einblenden", "ansicht.kopfzeile", "Kopfzeile", CheckBox, Small, "P", Icon::None, "", "", "Zeigt Titel und Schriftgröße über der Seite."},
+    Row{"Ansicht", "Einblenden", "ansicht.kopfzeile", "Kopfzeile", CheckBox, Small, "P", Icon::None, "", "", "Zeigt den Titel über der Seite."},
     Row{"Ansicht", "Einblenden", "ansicht.namen", "Befehlsnamen", CheckBox, Small, "B", Icon::None, "", "", "Nennt in den Hinweisen die Namen der Befehle."},
 
     Row{"Hilfe", "Nachschlagen", "hilfe.handbuch", "Handbuch", Button, Large, "H", Icon::Manual, "", "F1", "Öffnet das Handbuch."},

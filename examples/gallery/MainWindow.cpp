@@ -3,6 +3,7 @@
 #include "GalleryRibbon.h"
 #include "KeytipDriver.h"
 #include "PageRegistry.h"
+#include "StatusBar.h"
 #include "pages/Page.h"
 #include "pages/PageSupport.h"
 
@@ -14,7 +15,6 @@
 #include <QMessageBox>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QSlider>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -24,14 +24,7 @@ namespace {
 
 constexpr QSize firstSize(1180, 800);
 constexpr int minimumTitleWidth = 60;
-constexpr int sliderWidth = 110;
 constexpr int headerPadding = 6;
-
-QString deltaText(int delta)
-{
-    const QChar sign = delta > 0 ? QLatin1Char('+') : delta < 0 ? QChar(0x2212) : QChar(0x00B1);
-    return QStringLiteral("%1%2 px").arg(sign).arg(std::abs(delta));
-}
 
 } // namespace
 
@@ -40,6 +33,7 @@ MainWindow::MainWindow(const Theme &theme, QWidget *parent)
     , m_theme(theme)
     , m_ribbon(new GalleryRibbon(GalleryRibbon::Use::Window))
     , m_pages(new QStackedWidget)
+    , m_statusBar(new StatusBar)
 {
     setObjectName(QStringLiteral("frame"));
     setAttribute(Qt::WA_StyledBackground);
@@ -54,6 +48,8 @@ MainWindow::MainWindow(const Theme &theme, QWidget *parent)
     m_header = makeHeader();
     layout->addWidget(m_header);
     layout->addWidget(m_pages, 1);
+    layout->addWidget(m_statusBar);
+    connect(m_statusBar, &StatusBar::fontDeltaRequested, this, &MainWindow::fontDeltaRequested);
 
     connectRibbon();
     showTheme();
@@ -70,19 +66,10 @@ QFrame *MainWindow::makeHeader()
     m_title->enableElide(true);
     m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_title->setMinimumWidth(minimumTitleWidth);
-    m_lastCommand = makeCaption(QString());
-    m_lastCommand->enableElide(true);
-    m_lastCommand->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_lastCommand->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 
     auto *layout = new QHBoxLayout(header);
     layout->setContentsMargins(pageMargin, headerPadding, pageMargin, headerPadding);
-    layout->setSpacing(8);
-    layout->addWidget(m_title, 2);
-    layout->addWidget(m_lastCommand, 1);
-    m_lastCommand->hide();
-    layout->addSpacing(16);
-    addFontDelta(layout);
+    layout->addWidget(m_title);
     return header;
 }
 
@@ -96,18 +83,18 @@ void MainWindow::connectRibbon()
 
 void MainWindow::runCommand(const QString &name)
 {
-    m_lastCommand->hide();
+    m_statusBar->setMessage(QString());
     if (name.startsWith(themeCommand)) {
         const QString theme = name.mid(themeCommand.size());
         showTheme();
         if (theme != m_theme.key)
             Q_EMIT themeRequested(theme);
     } else if (name == largerCommand) {
-        m_fontDelta->setValue(m_fontDelta->value() + 1);
+        m_statusBar->setFontDelta(m_statusBar->fontDelta() + 1);
     } else if (name == smallerCommand) {
-        m_fontDelta->setValue(m_fontDelta->value() - 1);
+        m_statusBar->setFontDelta(m_statusBar->fontDelta() - 1);
     } else if (name == resetFontCommand) {
-        m_fontDelta->setValue(0);
+        m_statusBar->setFontDelta(0);
     } else if (name == aboutCommand) {
         showAbout();
     } else {
@@ -115,10 +102,8 @@ void MainWindow::runCommand(const QString &name)
         const auto entry =
             std::find_if(commands.begin(), commands.end(),
                          [&name](const CommandEntry &command) { return command.name == name; });
-        if (entry != commands.end() && entry->page.isEmpty()) {
-            m_lastCommand->setText(QStringLiteral("Gewählt: %1").arg(entry->plainText()));
-            m_lastCommand->show();
-        }
+        if (entry != commands.end() && entry->page.isEmpty())
+            m_statusBar->setMessage(QStringLiteral("Gewählt: %1").arg(entry->plainText()));
     }
 }
 
@@ -156,30 +141,6 @@ void MainWindow::showTheme()
 void MainWindow::focusTheme()
 {
     m_ribbon->focusCommand(themeCommand + m_theme.key);
-}
-
-void MainWindow::addFontDelta(QHBoxLayout *layout)
-{
-    const int delta = NVO::Css::instance().fontDelta();
-    auto *slider = new QSlider(Qt::Horizontal);
-    m_fontDelta = slider;
-    slider->setObjectName(QStringLiteral("fontDelta"));
-    slider->setAccessibleName(QStringLiteral("Schriftgröße"));
-    slider->setToolTip(QStringLiteral("Zuschlag auf alle Schriftgrößen"));
-    slider->setRange(minimumFontDelta, maximumFontDelta);
-    slider->setPageStep(1);
-    slider->setFixedWidth(sliderWidth);
-    slider->setValue(delta);
-
-    NVO::Label *value = makeCaption(deltaText(delta));
-    value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    layout->addWidget(makeCaption(QStringLiteral("Schrift")));
-    layout->addWidget(slider);
-    layout->addWidget(value);
-    connect(slider, &QSlider::valueChanged, this, [this, value](int newDelta) {
-        value->setText(deltaText(newDelta));
-        Q_EMIT fontDeltaRequested(newDelta);
-    });
 }
 
 void MainWindow::setCurrentPage(const QString &key)

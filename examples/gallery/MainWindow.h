@@ -8,16 +8,15 @@
 
 class GalleryRibbon;
 class QFrame;
-class QHBoxLayout;
 class QScrollArea;
-class QSlider;
 class QStackedWidget;
+class StatusBar;
 
 namespace NVO {
 class Label;
 }
 
-/** The frame: the ribbon, a strip with the title of the page and the font size, and the page itself. */
+/** The frame: the ribbon, the title of the page, the page itself and the status bar with the zoom. */
 class MainWindow : public QWidget
 {
     Q_OBJECT
@@ -48,7 +47,6 @@ Q_SIGNALS:
 
 private:
     QFrame *makeHeader();
-    void addFontDelta(QHBoxLayout *layout);
     void connectRibbon();
     void runCommand(const QString &name);
     void changeOption(const QString &name, bool on);
@@ -60,9 +58,8 @@ private:
     GalleryRibbon *m_ribbon;
     QFrame *m_header = nullptr;
     QStackedWidget *m_pages;
+    StatusBar *m_statusBar;
     NVO::Label *m_title = nullptr;
-    NVO::Label *m_lastCommand = nullptr;
-    QSlider *m_fontDelta = nullptr;
     int m_currentPage = -1;
     QHash<int, QScrollArea *> m_pageViews;
 };

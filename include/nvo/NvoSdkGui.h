@@ -9,6 +9,7 @@
 #include <nvo/AccordionPart.h>
 #include <nvo/AccordionSimpleHeader.h>
 #include <nvo/Action.h>
+#include <nvo/ActionFactory.h>
 #include <nvo/BaseDateEdit.h>
 #include <nvo/BaseEdit.h>
 #include <nvo/Button.h>
@@ -71,3 +72,4 @@
 #include <nvo/Separator.h>
 #include <nvo/ShadowSimple.h>
 #include <nvo/TimeEdit.h>
+#include <nvo/ZoomSlider.h>

@@ -81,8 +81,6 @@ protected:
     void initStyleSheet() override;
 
 private:
-    Label *addLabel(bool isText);
-    QWidget *addSpacer(int width, int height);
     void createChildren();
     void setText(Label *label, QString &stored, const QString &text);
     void setPicture(Label *label, const QPixmap &picture);

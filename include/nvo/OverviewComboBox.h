@@ -8,8 +8,6 @@
 
 #include <memory>
 
-class QTextDocument;
-
 namespace NVO {
 
 /**
@@ -28,11 +26,13 @@ namespace NVO {
  *
  * The size hint is that of the largest item. The measured sizes are kept in the model, under CachedWidthRole
  * and CachedHeightRole, until a text, the font or the style changes. A model may be shared by boxes of the
- * same font only. The items have no display text, so currentText() and findText() know nothing of them;
- * assistive technology reads the title as name and the rest as description.
+ * same font only. The items have no display text, so currentText(), findText() and a search by typing know
+ * nothing of them, unless setItemText() gives them one. Assistive technology reads the title as name and the
+ * rest as description.
  *
  * Keyboard and wheel pass over action items and disabled entries without activated(). A handler of
- * actionTriggered() may use deleteLater(), but not delete the box at once: Qt still works with it.
+ * currentIndexChanged() or actionTriggered() may use deleteLater(), but not delete the box at once: Qt still
+ * works with it.
  */
 class NVO_EXPORT OverviewComboBox : public QComboBox
 {
@@ -51,7 +51,6 @@ public:
     };
 
     explicit OverviewComboBox(QWidget *parent = nullptr);
-    ~OverviewComboBox() override;
 
     /** Appends an entry. This and insertItem() hide the functions of QComboBox of the same name. */
     void addItem(const QIcon &icon, const QString &title, const QString &description, const QString &path,
@@ -131,14 +130,6 @@ private:
     void forgetSizes(int first, int last);
     void keepSize(const QModelIndex &item, const QVariant &width, const QVariant &height) const;
     QSize contentSize(const QModelIndex &item) const;
-    QSize measureEntry(const QModelIndex &item) const;
-    QFont pathFont() const;
-
-    void paintAction(QPainter *painter, const QRect &rect, const QModelIndex &item,
-                     const QColor &color) const;
-    void paintIcon(QPainter *painter, const QRect &rect, const QModelIndex &item) const;
-    int paintText(QPainter *painter, const QRect &place, QTextDocument &document) const;
-    void paintPath(QPainter *painter, const QRect &place, const QString &path, const QColor &color) const;
 
     QPersistentModelIndex m_lastIndex; // the current entry that is not an action
     QPointer<QAbstractItemModel> m_model;

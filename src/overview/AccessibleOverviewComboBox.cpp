@@ -7,7 +7,6 @@
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
 #include <QLineEdit>
-#include <QTextDocumentFragment>
 
 namespace NVO::AccessibleOverviewComboBox {
 
@@ -93,11 +92,6 @@ QAccessibleInterface *createInterface(const QString &className, QObject *object)
 void install()
 {
     QAccessible::installFactory(createInterface);
-}
-
-QString spoken(const QString &html)
-{
-    return QTextDocumentFragment::fromHtml(html).toPlainText().simplified();
 }
 
 } // namespace NVO::AccessibleOverviewComboBox

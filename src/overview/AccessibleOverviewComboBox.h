@@ -1,7 +1,5 @@
 #pragma once
 
-class QString;
-
 namespace NVO::AccessibleOverviewComboBox {
 
 /**
@@ -9,8 +7,5 @@ namespace NVO::AccessibleOverviewComboBox {
  * nothing.
  */
 void install();
-
-/** Rich text as it is read, on one line. */
-QString spoken(const QString &html);
 
 } // namespace NVO::AccessibleOverviewComboBox

@@ -1,5 +1,6 @@
 #include "overview/LeftSideButton.h"
 
+#include "overview/OverviewAccessible.h"
 #include "overview/TileLabel.h"
 #include "overview/TileShape.h"
 #include "theme/StyleSupport.h"
@@ -56,7 +57,7 @@ void LeftSideButton::setIcon(const QPixmap &icon)
 
 void LeftSideButton::setTitle(const QString &title)
 {
-    m_titleLabel->setText(title);
+    OverviewAccessible::setText(this, m_titleLabel, title, QAccessible::NameChanged);
 }
 
 QString LeftSideButton::title() const
@@ -66,7 +67,7 @@ QString LeftSideButton::title() const
 
 void LeftSideButton::setText(const QString &text)
 {
-    m_textLabel->setText(text);
+    OverviewAccessible::setText(this, m_textLabel, text, QAccessible::DescriptionChanged);
 }
 
 QString LeftSideButton::text() const

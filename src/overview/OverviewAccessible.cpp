@@ -5,6 +5,7 @@
 #include "overview/RightSideButton.h"
 #include "theme/StyleSupport.h"
 
+#include <nvo/Label.h>
 #include <nvo/OverviewButton.h>
 
 #include <QTextDocumentFragment>
@@ -89,6 +90,16 @@ QAccessibleInterface *createInterface(const QString &className, QObject *object)
 void install()
 {
     QAccessible::installFactory(createInterface);
+}
+
+void setText(QWidget *tile, Label *label, const QString &text, QAccessible::Event change)
+{
+    const QString before = label->text();
+    label->setText(text);
+    if (label->text() == before)
+        return;
+    QAccessibleEvent event(tile, change);
+    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace NVO::OverviewAccessible

@@ -1,5 +1,11 @@
 #pragma once
 
+#include <QAccessible>
+
+namespace NVO {
+class Label;
+}
+
 /** The tiles as assistive technology sees them. */
 namespace NVO::OverviewAccessible {
 
@@ -8,5 +14,8 @@ namespace NVO::OverviewAccessible {
  * its other texts. Every call after the first does nothing.
  */
 void install();
+
+/** Gives \a label, a part of \a tile, \a text and tells assistive technology of \a change if it is one. */
+void setText(QWidget *tile, Label *label, const QString &text, QAccessible::Event change);
 
 } // namespace NVO::OverviewAccessible

@@ -1,14 +1,15 @@
 #include <nvo/OverviewButton.h>
 
+#include "overview/OverviewAccessible.h"
 #include "overview/TileLabel.h"
 #include "theme/StyleSupport.h"
 
 #include <nvo/Pixmap.h>
 #include <nvo/Product.h>
 
-#include <QAccessible>
 #include <QEvent>
 #include <QGridLayout>
+#include <QMouseEvent>
 
 namespace NVO {
 
@@ -24,6 +25,60 @@ constexpr int textSpacing = 2;
 constexpr int textRows = 5; // title, description and note with the spacers between them
 constexpr int titleColumn = 2;
 constexpr int titleColumnStretch = 100000; // takes all there is
+
+/**
+ * Leaves to its tile what follows a press. A label would keep it, also where it left the press itself to the
+ * tile, which would stay down.
+ */
+class HintLabel : public Label
+{
+public:
+    using Label::Label;
+
+protected:
+    void mouseMoveEvent(QMouseEvent *event) override
+    {
+        Label::mouseMoveEvent(event);
+        event->ignore();
+    }
+    void mouseReleaseEvent(QMouseEvent *event) override
+    {
+        Label::mouseReleaseEvent(event);
+        event->ignore();
+    }
+};
+
+/** A child of \a tile that is not there yet. */
+template <typename Child>
+Child *addHidden(QWidget *tile)
+{
+    auto *child = new Child(tile);
+    child->hide();
+    return child;
+}
+
+template <typename TextLabel>
+Label *addText(QWidget *tile)
+{
+    auto *label = addHidden<TextLabel>(tile);
+    label->setTextInteractionFlags(Qt::NoTextInteraction);
+    label->setWordWrap(true);
+    return label;
+}
+
+QWidget *addWidth(QWidget *tile, int width)
+{
+    auto *spacer = addHidden<QWidget>(tile);
+    spacer->setFixedWidth(width);
+    return spacer;
+}
+
+QWidget *addHeight(QWidget *tile, int height)
+{
+    auto *spacer = addHidden<QWidget>(tile);
+    spacer->setFixedHeight(height);
+    return spacer;
+}
 
 bool hasPicture(const Label *label)
 {
@@ -43,54 +98,29 @@ OverviewButton::OverviewButton(QWidget *parent)
     updateFontSizes();
 }
 
-Label *OverviewButton::addLabel(bool isText)
-{
-    auto *label = new Label(this);
-    label->hide();
-    if (isText) {
-        label->setTextInteractionFlags(Qt::NoTextInteraction);
-        label->setWordWrap(true);
-    }
-    return label;
-}
-
-QWidget *OverviewButton::addSpacer(int width, int height)
-{
-    auto *spacer = new QWidget(this);
-    spacer->hide();
-    if (width > 0)
-        spacer->setFixedWidth(width);
-    if (height > 0)
-        spacer->setFixedHeight(height);
-    return spacer;
-}
-
 void OverviewButton::createChildren()
 {
-    m_iconLabel = addLabel(false);
+    m_iconLabel = addHidden<Label>(this);
     m_iconLabel->setObjectName(QStringLiteral("icon"));
     m_iconLabel->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
-    m_iconSpacer = addSpacer(pictureSpacing, 0);
+    m_iconSpacer = addWidth(this, pictureSpacing);
 
-    m_titleSpacer = addSpacer(0, textSpacing);
-    m_descriptionSpacer = addSpacer(0, textSpacing);
-    m_titleLabel = new TileLabel(this);
-    m_titleLabel->hide();
-    m_titleLabel->setTextInteractionFlags(Qt::NoTextInteraction);
-    m_titleLabel->setWordWrap(true);
+    m_titleLabel = addText<TileLabel>(this);
     m_titleLabel->setObjectName(QStringLiteral("titleLabel"));
     m_titleLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    m_descriptionLabel = addLabel(true);
-    m_noteLabel = addLabel(true);
+    m_titleSpacer = addHeight(this, textSpacing);
+    m_descriptionLabel = addText<Label>(this);
+    m_descriptionSpacer = addHeight(this, textSpacing);
+    m_noteLabel = addText<Label>(this);
 
-    m_hintSpacer = addSpacer(pictureSpacing, 0);
-    m_hintLabel = addLabel(false);
+    m_hintSpacer = addWidth(this, pictureSpacing);
+    m_hintLabel = addHidden<HintLabel>(this);
     m_hintLabel->setWordWrap(true);
     m_hintLabel->setAlignment(Qt::AlignRight | Qt::AlignCenter);
-    m_statusSpacer = addSpacer(pictureSpacing, 0);
-    m_statusLabel = addLabel(false);
-    m_accessorySpacer = addSpacer(accessorySpacing, 0);
-    m_accessoryLabel = addLabel(false);
+    m_statusSpacer = addWidth(this, pictureSpacing);
+    m_statusLabel = addHidden<Label>(this);
+    m_accessorySpacer = addWidth(this, accessorySpacing);
+    m_accessoryLabel = addHidden<Label>(this);
     for (Label *label : {m_hintLabel, m_statusLabel, m_accessoryLabel})
         label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
@@ -155,11 +185,10 @@ void OverviewButton::setText(Label *label, QString &stored, const QString &text)
     if (stored == text)
         return;
     stored = text;
-    label->setText(text);
+    const bool isName = label == m_titleLabel;
+    OverviewAccessible::setText(this, label, text,
+                                isName ? QAccessible::NameChanged : QAccessible::DescriptionChanged);
     updateVisiblity();
-    QAccessibleEvent change(this, label == m_titleLabel ? QAccessible::NameChanged
-                                                        : QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&change);
 }
 
 void OverviewButton::setTitle(const QString &title)
@@ -219,14 +248,20 @@ QList<Label *> OverviewButton::styledLabels() const
 void OverviewButton::updateFontSizes()
 {
     const QString key = StyleSupport::enumKey(m_headlineStyle);
+    // Polishing for nothing is slow, and a label would take a font of the application that it has yet to hear
+    // of for its own.
+    const bool changed = m_titleLabel->property("style") != key;
     for (Label *label : styledLabels())
         label->setProperty("style", key);
     if (!StyleSupport::isStyleSheetStyled(this))
         return;
-    StyleSupport::repolish(m_titleLabel);
+    if (changed)
+        StyleSupport::repolish(m_titleLabel);
     StyleSupport::applyFontSize(m_titleLabel, ElementOverviewButton,
                                 m_headlineStyle == Big ? QStringLiteral("BIG") : QStringLiteral("NORMAL"));
-    StyleSupport::repolish({m_descriptionLabel, m_noteLabel, m_hintLabel, m_statusLabel, m_accessoryLabel});
+    if (changed)
+        StyleSupport::repolish(
+            {m_descriptionLabel, m_noteLabel, m_hintLabel, m_statusLabel, m_accessoryLabel});
 }
 
 bool OverviewButton::event(QEvent *event)

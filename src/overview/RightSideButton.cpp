@@ -1,5 +1,6 @@
 #include "overview/RightSideButton.h"
 
+#include "overview/OverviewAccessible.h"
 #include "overview/RightSideDummyButton.h"
 #include "overview/TileLabel.h"
 #include "overview/TileShape.h"
@@ -56,7 +57,7 @@ RightSideButton::RightSideButton(QWidget *parent)
 
 void RightSideButton::setTitle(const QString &title)
 {
-    m_titleLabel->setText(title);
+    OverviewAccessible::setText(this, m_titleLabel, title, QAccessible::NameChanged);
 }
 
 QString RightSideButton::title() const
@@ -66,7 +67,7 @@ QString RightSideButton::title() const
 
 void RightSideButton::setText(const QString &text)
 {
-    m_textLabel->setText(text);
+    OverviewAccessible::setText(this, m_textLabel, text, QAccessible::DescriptionChanged);
 }
 
 QString RightSideButton::text() const

@@ -1,7 +1,7 @@
 #include "Guards.h"
 #include "SignalRecorder.h"
 #include "TestCase.h"
-#include "TestResources.h"
+#include "TileTheme.h"
 
 #include <nvo/CheckBox.h>
 #include <nvo/Label.h>
@@ -31,8 +31,7 @@ struct Page
         rows.addWidget(&before);
         rows.addWidget(&tile);
         rows.addWidget(&after);
-        window.show();
-        window.activateWindow();
+        isActive = activate(&window);
     }
     QList<OverviewButtonBase *> buttons() { return tile.template findChildren<OverviewButtonBase *>(); }
 
@@ -41,15 +40,8 @@ struct Page
     QPushButton before;
     Widget tile;
     QPushButton after;
+    bool isActive = false;
 };
-
-QImage pictureOf(QWidget &widget)
-{
-    QImage image(widget.size(), QImage::Format_RGB32);
-    image.fill(Qt::magenta);
-    widget.render(&image);
-    return image;
-}
 
 } // namespace
 
@@ -58,74 +50,20 @@ class TestSplitTiles : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_theme.emplace(QMap<QString, QByteArray>{
-            {"Font", "[Size]\nDEFAULT=13\nHIGHLIGHT=17\n"},
-            {"FontSizes", "[Element]\nOverviewButton=HIGHLIGHT\n"},
-            {"OverviewButton",
-             "NVO--OverviewButtonBase, #top, #middle, #bottom { background: #ffffff; border: 1px solid "
-             "#000000; }\n"
-             "[WithoutLeftBorder=\"true\"], #middle[rightToLeft=\"false\"], #bottom[rightToLeft=\"false\"] { "
-             "border-left: none; }\n"
-             "[WithoutRightBorder=\"true\"], #middle[rightToLeft=\"true\"], #bottom[rightToLeft=\"true\"] { "
-             "border-right: none; }\n"
-             "[WithoutTopBorder=\"true\"], #middle, #bottom { border-top: none; }\n"
-             "[WithoutBottomBorder=\"true\"], #middle { border-bottom: none; }\n"
-             "#lastLine { background: #00ff00; } #lastLine[state=\"hover\"] { background: #0000ff; }\n"},
-            {"Palette", "[Named]\nCOLOR_BIG_BUTTON_BACKGROUND=#ffffff\nCOLOR_BIG_BUTTON_BORDER=#000000\n"
-                        "COLOR_BIG_BUTTON_BORDER_FOCUS=#ff0000\nCOLOR_BIG_BUTTON_BORDER_DISABLED=#00ff00\n"},
-            {"arrow_right_dark_6x12", TestResources::png(6, 12, {0xff111111})},
-        });
-        NVO::Css::instance().reset();
-    }
+    void init() { m_theme.emplace(); }
 
-    void walk_data()
-    {
-        QTest::addColumn<int>("count");
-        for (int count = 0; count <= 4; ++count)
-            QTest::addRow("%d", count) << count;
-    }
-
-    /** Each key from each button; 0 is the button before, 1 the left half, then the right ones, then after.
-     */
     void walk()
     {
-        QFETCH(int, count);
-        Page<OverviewButton3Children> page;
-        QVERIFY(QTest::qWaitForWindowActive(&page.window));
-        page.tile.setRightSideVisible(unsigned(count));
-        const int rows = qMin(count, 3);
-        QList<QWidget *> stops{&page.before};
-        const auto buttons = page.buttons();
-        for (int i = 0; i <= rows; ++i)
-            stops.append(buttons[i]);
-        stops.append(&page.after);
-        const int last = rows + 1;
-        for (int from = 1; from <= last; ++from) {
-            const auto reached = [&](Qt::Key key) {
-                stops[from]->setFocus();
-                QTest::keyClick(stops[from], key);
-                return stops.indexOf(QApplication::focusWidget());
-            };
-            const bool left = from == 1;
-            QCOMPARE(reached(Qt::Key_Left), 1);
-            QCOMPARE(reached(Qt::Key_Right), left && rows > 0 ? 2 : from);
-            QCOMPARE(reached(Qt::Key_Up), left || from == 2 ? 0 : from - 1);
-            QCOMPARE(reached(Qt::Key_Down), left ? last + 1 : from + 1);
-            QCOMPARE(reached(Qt::Key_Tab), from + 1);
-            QCOMPARE(reached(Qt::Key_Backtab), from - 1);
-        }
+        for (unsigned int count = 0; count <= 4; ++count)
+            walk(count);
     }
 
     void shapes_data()
     {
         QTest::addColumn<int>("count");
         QTest::addColumn<bool>("rightToLeft");
-        for (int count = 0; count <= 3; ++count) {
-            QTest::addRow("%d", count) << count << false;
-            QTest::addRow("%d right to left", count) << count << true;
-        }
+        for (int row = 0; row < 8; ++row)
+            QTest::addRow("%d%s", row / 2, row % 2 ? " right to left" : "") << row / 2 << (row % 2 == 1);
     }
 
     /** The frame and the lines of the tile, pixel by pixel, in both directions. */
@@ -136,57 +74,49 @@ private Q_SLOTS:
         Page<OverviewButton3Children> page;
         OverviewButton3Children &tile = page.tile;
         tile.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-        tile.setRightSideVisible(3);
-        const int height = tile.sizeHint().height();
+        QCOMPARE(tile.sizeHint().height(), 3 * 63 + 2);
         tile.setRightSideVisible(unsigned(count));
-        QCOMPARE(height, 3 * 63 + 2);
-        QVERIFY(count == 0 || tile.sizeHint().height() == height);
-        tile.setGraphicsEffect(nullptr);
+        QVERIFY(count == 0 || tile.sizeHint().height() == 3 * 63 + 2);
         tile.setFixedSize(400, 3 * 70 + 2);
         page.window.adjustSize();
         QCoreApplication::processEvents();
 
-        QImage image = pictureOf(tile);
-        if (rightToLeft)
-            image = image.mirrored(true, false);
-        for (int y = 0; y < image.height(); ++y) {
-            for (const int x : {0, 100, 200, 300, 399}) { // edges, middles of the halves and the line between
-                if (x == 100 || x == 300) {               // no texts, but the arrows are at the edge
-                    const int row = (y + 1) / 71;
-                    const bool line = x == 300 && y % 71 == 70 && row <= count && count > 0;
-                    const bool frame = y == 0 || y == image.height() - 1;
-                    QCOMPARE(image.pixelColor(x, y), QColor(frame  ? Qt::black
-                                                            : line ? Qt::green
-                                                                   : Qt::white));
-                } else if (x != 200 || count > 0) {
-                    QCOMPARE(image.pixelColor(x, y), QColor(Qt::black));
-                }
-            }
+        const Picture picture(&tile);
+        QVERIFY(!picture.hasHoles());
+        const auto at = [&](int x, int y) { return picture.at(rightToLeft ? 399 - x : x, y); };
+        for (int y = 0; y < 212; ++y) {
+            const bool frame = y == 0 || y == 211;
+            const bool line = y % 71 == 70 && (y + 1) / 71 <= count && count > 0;
+            QCOMPARE(at(0, y), QColor(Qt::black));
+            QCOMPARE(at(399, y), QColor(Qt::black));
+            QCOMPARE(at(100, y), QColor(frame ? Qt::black : Qt::white));
+            QCOMPARE(at(200, y), QColor(frame || count > 0 ? Qt::black : Qt::white));
+            QCOMPARE(at(300, y), QColor(frame ? Qt::black : line ? Qt::green : Qt::white));
         }
-        const OverviewButtonBase &left = *page.buttons().first();
-        using Corner = OverviewButtonBase::RoundCornerStyle;
-        QCOMPARE(left.roundCornerStyle().testFlag(Corner::TopRight), count == 0 || rightToLeft);
-        QCOMPARE(left.roundCornerStyle().testFlag(Corner::BottomLeft), count == 0 || !rightToLeft);
+        QVector<int> corners;
+        for (const OverviewButtonBase *button : page.buttons())
+            corners.append(int(button->roundCornerStyle()));
+        const int left = count == 0 ? 15 : rightToLeft ? 10 : 5;
+        QCOMPARE(corners, rightToLeft ? QVector<int>({left, 1, 0, 4}) : QVector<int>({left, 2, 0, 8}));
     }
 
     /** Red lines are around the button with the focus and nowhere else. */
     void lines()
     {
         Page<OverviewButton3Children> page;
-        QVERIFY(QTest::qWaitForWindowActive(&page.window));
-        page.tile.setGraphicsEffect(nullptr);
+        QVERIFY(page.isActive);
         page.tile.setFixedSize(400, 3 * 70 + 2);
         QCoreApplication::processEvents();
         for (int focused = 0; focused < 4; ++focused) {
             page.buttons()[focused]->setFocus();
-            const QImage image = pictureOf(page.tile);
-            for (int y = 0; y < image.height(); ++y) {
+            const Picture picture(&page.tile);
+            for (int y = 0; y < 212; ++y) {
                 // The rows that the button and the lines above and below it have.
                 const int row = focused - 1;
                 const bool near = focused == 0 || (y >= row * 71 - 1 && y <= row * 71 + 70);
-                QCOMPARE(image.pixelColor(200, y) == Qt::red, near);
+                QCOMPARE(picture.at(200, y) == Qt::red, near);
                 const bool between = y == 70 || y == 141;
-                QCOMPARE(image.pixelColor(300, y) == Qt::red, between && near && focused > 0);
+                QCOMPARE(picture.at(300, y) == Qt::red, between && near && focused > 0);
             }
         }
     }
@@ -199,6 +129,7 @@ private Q_SLOTS:
         recorder.record(&tile, &OverviewButton3Children::clicked, "left");
         connect(&tile, &OverviewButton3Children::rightSideClicked, &recorder,
                 [&tile](int row) { tile.setText(QString::number(row)); });
+        QVERIFY(tile.graphicsEffect());
         tile.setTitle("title");
         for (unsigned int row = 0; row < 5; ++row) {
             tile.setRighSideTitle(row, QString("title %1").arg(row));
@@ -227,7 +158,7 @@ private Q_SLOTS:
     void lastLine()
     {
         Page<OverviewButtonWithWidget> page;
-        QVERIFY(QTest::qWaitForWindowActive(&page.window));
+        QVERIFY(page.isActive);
         OverviewButtonWithWidget &tile = page.tile;
         auto *button = tile.findChild<OverviewButton *>();
         auto *line = tile.findChild<QWidget *>("lastLine");
@@ -243,7 +174,7 @@ private Q_SLOTS:
         recorder.record(&tile, &OverviewButtonWithWidget::checkBoxToggled, "box toggled");
         page.before.setFocus();
 
-        const auto ground = [line] { return line->grab().toImage().pixelColor(1, 1); };
+        const auto ground = [line] { return Picture(line).at(1, 1); };
         QEnterEvent enter({5, 5}, {5, 5}, {5, 5});
         QEvent leave(QEvent::Leave);
         QCoreApplication::sendEvent(line, &enter);
@@ -277,35 +208,35 @@ private Q_SLOTS:
             QCOMPARE(label->isVisible(), mode == 1);
             QCOMPARE(box->text(), tile.lastLineText());
         }
-        QCOMPARE(button->borderStyle() | OverviewButton::BorderStyle::Bottom,
-                 OverviewButton::BorderStyles(OverviewButton::BorderStyle::Normal));
-        QVERIFY(!button->borderStyle().testFlag(OverviewButton::BorderStyle::Bottom));
+        for (const char *name : {"title", "description", "note", "hint"})
+            tile.setProperty(name, name);
+        for (const char *name : {"title", "description", "note", "hint"})
+            QCOMPARE(button->property(name), QVariant(name));
+        tile.setOverviewButtonStyle(OverviewButton::Style::Primary);
+        QCOMPARE(line->property("style"), button->property("style"));
+        QCOMPARE(box->checkBoxStyle(), NVO::CheckBox::CheckBoxStyle::White);
+        QCOMPARE(int(button->borderStyle()), 7);
+        QCOMPARE(int(button->roundCornerStyle()), 3);
     }
 
-    /** In a slot of each signal the whole tile goes. */
+    /** The whole tile goes in a slot. */
     void deletedInside()
     {
-        for (int signal = 0; signal < 5; ++signal) {
-            QWidget window;
-            QPointer<OverviewButton3Children> split = new OverviewButton3Children(&window);
-            QPointer<OverviewButtonWithWidget> lined = new OverviewButtonWithWidget(&window);
-            window.show();
-            const auto kill = [split, lined] {
+        for (int signal = 0; signal < 3; ++signal) {
+            QPointer<OverviewButton3Children> split = new OverviewButton3Children;
+            QPointer<OverviewButtonWithWidget> lined = new OverviewButtonWithWidget;
+            const auto kill = [=] {
                 delete split;
                 delete lined;
             };
-            const auto buttons = split->findChildren<OverviewButtonBase *>();
-            connect(split, &OverviewButton3Children::clicked, this, kill);
+            auto *right = split->findChildren<OverviewButtonBase *>()[1];
             connect(split, &OverviewButton3Children::rightSideClicked, this, kill);
-            connect(buttons[2], &OverviewButtonBase::keyPressed, this, kill);
-            connect(lined, &OverviewButtonWithWidget::pressed, this, kill);
+            connect(right, &OverviewButtonBase::keyPressed, this, kill);
             connect(lined, &OverviewButtonWithWidget::checkBoxClicked, this, kill);
-            if (signal < 2)
-                buttons[signal]->click();
-            else if (signal == 2)
-                QTest::keyPress(buttons[2], Qt::Key_Down);
-            else if (signal == 3)
-                QTest::keyPress(lined->findChild<OverviewButton *>(), Qt::Key_Space);
+            if (signal == 0)
+                right->click();
+            else if (signal == 1)
+                QTest::keyPress(right, Qt::Key_Down);
             else
                 lined->findChild<NVO::CheckBox *>()->click();
             QVERIFY(split.isNull() && lined.isNull());
@@ -313,7 +244,35 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestResources> m_theme;
+    /** Each key from each button: 0 is the one before, 1 the left half, then the right ones, then after. */
+    void walk(unsigned int count)
+    {
+        Page<OverviewButton3Children> page;
+        QVERIFY(page.isActive);
+        page.tile.setRightSideVisible(count);
+        const int rows = qMin(int(count), 3);
+        QList<QWidget *> stops{&page.before};
+        for (OverviewButtonBase *button : page.buttons().mid(0, rows + 1))
+            stops.append(button);
+        stops.append(&page.after);
+        const int last = rows + 1;
+        for (int from = 1; from <= last; ++from) {
+            const auto reached = [&](Qt::Key key) {
+                stops[from]->setFocus();
+                QTest::keyClick(stops[from], key);
+                return stops.indexOf(QApplication::focusWidget());
+            };
+            const bool left = from == 1;
+            QCOMPARE(reached(Qt::Key_Left), 1);
+            QCOMPARE(reached(Qt::Key_Right), left && rows > 0 ? 2 : from);
+            QCOMPARE(reached(Qt::Key_Up), left || from == 2 ? 0 : from - 1);
+            QCOMPARE(reached(Qt::Key_Down), left ? last + 1 : from + 1);
+            QCOMPARE(reached(Qt::Key_Tab), from + 1);
+            QCOMPARE(reached(Qt::Key_Backtab), from - 1);
+        }
+    }
+
+    std::optional<TileTheme> m_theme;
 };
 
 QTEST_MAIN(TestSplitTiles)

@@ -151,7 +151,8 @@ private Q_SLOTS:
                                            NVO::ElementRibbonGroup,
                                            NVO::ElementRibbonGroupButton,
                                            NVO::ElementRibbonGroupObject,
-                                           NVO::ElementRibbonLabel}) {
+                                           NVO::ElementRibbonLabel,
+                                           NVO::ElementZoomSlider}) {
             const QString sheet = NVO::Css::instance().css(element);
             QCss::StyleSheet parsed;
             QVERIFY(!sheet.isEmpty() && QCss::Parser(sheet).parse(&parsed, Qt::CaseSensitive));

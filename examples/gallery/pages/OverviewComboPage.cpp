@@ -108,13 +108,15 @@ void OverviewComboPage::addStates()
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(24);
     grid->setVerticalSpacing(4);
+    grid->setRowMinimumHeight(2, 8); // between the two pairs of a caption and its box
     for (int i = 0; i < int(states.size()); ++i) {
         const ForcedState::State state = states.at(std::size_t(i));
         NVO::OverviewComboBox *box = makeBox();
         addClients(box);
         ForcedState::apply(box, state);
-        grid->addWidget(makeCaption(ForcedState::title(state)), i / 2 * 2, i % 2);
-        grid->addWidget(box, i / 2 * 2 + 1, i % 2);
+        const int row = i / 2 * 3;
+        grid->addWidget(makeCaption(ForcedState::title(state)), row, i % 2);
+        grid->addWidget(box, row + 1, i % 2);
     }
     grid->setColumnStretch(2, 1);
     addSection(QStringLiteral("Zustände"),

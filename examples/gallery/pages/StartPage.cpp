@@ -3,16 +3,14 @@
 #include "pages/ForcedState.h"
 #include "pages/PageSupport.h"
 
-#include <nvo/FlowLayout.h>
 #include <nvo/Label.h>
 #include <nvo/OverviewButton.h>
 #include <nvo/OverviewButton3Children.h>
 #include <nvo/OverviewButtonWithWidget.h>
 #include <nvo/Pixmap.h>
 
-#include <QEvent>
 #include <QGridLayout>
-#include <QTimer>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -24,13 +22,106 @@ using NVO::OverviewButton;
 using NVO::OverviewButton3Children;
 using NVO::OverviewButtonWithWidget;
 
-constexpr QSize tileSize(348, 108);
-constexpr QSize wideTileSize(712, 191);
 constexpr int gap = 16;
+constexpr int narrowestColumn = 320;
 constexpr int wholePageWidth = 1180;
 
 constexpr std::array<ForcedState::State, 5> states{
     ForcedState::Normal, ForcedState::Hover, ForcedState::Pressed, ForcedState::Focus, ForcedState::Disabled};
+
+/**
+ * Columns of one width, as many as there is room for, and filled row by row. A tile takes one or more of them
+ * and is as high as its row.
+ */
+class TileLayout : public QLayout
+{
+public:
+    ~TileLayout() override
+    {
+        for (const Item &item : qAsConst(m_items))
+            delete item.item;
+    }
+    void addTile(QWidget *tile, int columns = 1)
+    {
+        addWidget(tile);
+        m_items.last().columns = columns;
+    }
+    void addTiles(QLayout *tiles)
+    {
+        addChildLayout(tiles);
+        addItem(tiles);
+    }
+    void addItem(QLayoutItem *item) override { m_items.append({item, 1}); }
+    int count() const override { return m_items.size(); }
+    QLayoutItem *itemAt(int index) const override { return m_items.value(index).item; }
+    QLayoutItem *takeAt(int index) override
+    {
+        return index >= 0 && index < m_items.size() ? m_items.takeAt(index).item : nullptr;
+    }
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override { return place(QRect(0, 0, width, 0), false); }
+    QSize sizeHint() const override { return minimumSize(); }
+    QSize minimumSize() const override { return {columnWidth(), 0}; }
+    void setGeometry(const QRect &rect) override
+    {
+        QLayout::setGeometry(rect);
+        place(rect, true);
+    }
+
+private:
+    struct Item
+    {
+        QLayoutItem *item = nullptr;
+        int columns = 1;
+    };
+
+    /** The least in which every tile has room. Split tiles ask for that of two halves and make do with less.
+     */
+    int columnWidth() const
+    {
+        int width = narrowestColumn;
+        for (const Item &item : m_items) {
+            if (!qobject_cast<OverviewButton3Children *>(item.item->widget()))
+                width = std::max(width, item.item->minimumSize().width());
+        }
+        return width;
+    }
+
+    static int heightOf(const QLayoutItem &item, int width)
+    {
+        const int height = item.hasHeightForWidth() ? item.heightForWidth(width) : item.sizeHint().height();
+        return std::max(height, item.minimumSize().height());
+    }
+
+    /** Where the items are in \a rect; returns how high they are together. */
+    int place(const QRect &rect, bool apply) const
+    {
+        const int columns = std::max(1, (rect.width() + gap) / (columnWidth() + gap));
+        const auto left = [&](int column) { return (rect.width() + gap) * column / columns; };
+        int top = 0;
+        for (int first = 0, next = 0; first < m_items.size(); first = next) {
+            QVector<QRect> row;
+            int height = 0;
+            for (int column = 0; next < m_items.size(); ++next) {
+                const int span = std::min(m_items[next].columns, columns);
+                if (column + span > columns)
+                    break;
+                row.append({left(column), top, left(column + span) - gap - left(column), 0});
+                height = std::max(height, heightOf(*m_items[next].item, row.last().width()));
+                column += span;
+            }
+            for (int i = 0; apply && i < row.size(); ++i) {
+                const QRect ltr(rect.topLeft() + row[i].topLeft(), QSize(row[i].width(), height));
+                m_items[first + i].item->setGeometry(
+                    QStyle::visualRect(parentWidget()->layoutDirection(), rect, ltr));
+            }
+            top += height + gap;
+        }
+        return std::max(0, top - gap);
+    }
+
+    QVector<Item> m_items;
+};
 
 NVO::Pixmap image(const char *name)
 {
@@ -65,7 +156,7 @@ OverviewButton *makePayroll()
 {
     auto *tile = makeTile<OverviewButton>("tile_payroll", QStringLiteral("Lohn und Gehalt"),
                                           QStringLiteral("Abrechnung April für 37 Beschäftigte"),
-                                          QStringLiteral("Übermittelt am 17. April 2026"));
+                                          QStringLiteral("Übermittelt am 17. April"));
     tile->setHint(QStringLiteral("fertig"));
     tile->setStatus(image("success_16"));
     tile->setAccessory(image("arrow_right_dark_6x12"));
@@ -92,11 +183,21 @@ OverviewButton *makeBank()
     return tile;
 }
 
+OverviewButton *makeReports()
+{
+    auto *tile = makeTile<OverviewButton>("tile_accounting", QStringLiteral("Auswertungen"),
+                                          QStringLiteral("BWA, Summen und Salden, offene Posten"));
+    tile->setOverviewButtonStyle(OverviewButton::Style::Light);
+    tile->setAccessory(image("arrow_right_dark_6x12"));
+    return tile;
+}
+
 OverviewButton *makeInvoice()
 {
     auto *tile =
         makeTile<OverviewButton>("tile_new_hell", QStringLiteral("Rechnung erfassen"),
-                                 QStringLiteral("Neue Ausgangsrechnung mit den Vorgaben des Mandanten"));
+                                 QStringLiteral("Neue Ausgangsrechnung mit den Vorgaben des Mandanten"),
+                                 QStringLiteral("Zuletzt: RE-2026-0418"));
     tile->setOverviewButtonStyle(OverviewButton::Style::Primary);
     return tile;
 }
@@ -123,8 +224,9 @@ OverviewButtonWithWidget *makeTaxReturn()
 
 OverviewButtonWithWidget *makeClients()
 {
-    auto *tile = makeTile<OverviewButtonWithWidget>("tile_clients", QStringLiteral("Mandanten"),
-                                                    QStringLiteral("Stammdaten und Ansprechpartner"));
+    auto *tile = makeTile<OverviewButtonWithWidget>(
+        "tile_clients", QStringLiteral("Mandanten"),
+        QStringLiteral("Stammdaten, Ansprechpartner und Vollmachten pflegen"));
     tile->setAccessory(image("arrow_right_dark_6x12"));
     tile->setLastLineText(QStringLiteral("Stand: 17. April 2026, 9:41 Uhr"));
     tile->setLastLineMode(OverviewButtonWithWidget::LastLineText);
@@ -200,47 +302,28 @@ int StartPage::pictureWidth() const
 
 void StartPage::addTiles()
 {
-    auto *ground = new QWidget;
-    auto *flow = new NVO::FlowLayout(ground, 0, gap, gap);
-    const auto add = [this, flow](QWidget *tile, const QSize &size) {
-        m_tiles.append({tile, size});
-        flow->addWidget(tile);
-    };
-    add(makeInvoice(), tileSize);
-    add(makeAccounting(), tileSize);
-    add(makePayroll(), tileSize);
-    add(makeClientTile(), wideTileSize);
-    add(makeAnnualAccounts(), QSize(tileSize.width(), wideTileSize.height()));
-    add(makeReceipts(), tileSize);
-    add(makeTaxReturn(), tileSize);
-    add(makeClients(), tileSize);
-    add(makeBank(), tileSize);
-    flow->addWidget(makeIconTile("question", QStringLiteral("Hilfe")));
-    flow->addWidget(makeIconTile("information", QStringLiteral("Neuigkeiten")));
-    fitTiles();
+    auto *tiles = new TileLayout;
     addSection(QStringLiteral("Guten Morgen, Frau Sommer"),
-               QStringLiteral("Die Kacheln fließen mit der Breite des Fensters. Tabulator und Leertaste "
-                              "bedienen sie, in der geteilten Kachel auch die Pfeiltasten."))
-        ->addWidget(ground);
-}
-
-/** The tiles of a row are of one size, as long as their texts have room. */
-void StartPage::fitTiles()
-{
-    for (const auto &tile : m_tiles) {
-        // Split tiles ask for room for two halves and make do with less.
-        const bool isSplit = qobject_cast<OverviewButton3Children *>(tile.first);
-        const int wanted = isSplit ? 0 : tile.first->minimumSizeHint().width();
-        const int width = std::max(wanted, tile.second.width());
-        tile.first->setFixedSize(width, std::max(tile.first->heightForWidth(width), tile.second.height()));
-    }
-}
-
-bool StartPage::event(QEvent *event)
-{
-    if (event->type() == QEvent::ApplicationFontChange)
-        QTimer::singleShot(0, this, &StartPage::fitTiles); // the labels hear of it, too
-    return Page::event(event);
+               QStringLiteral("Die Kacheln füllen die Breite des Fensters. Tabulator und Leertaste bedienen "
+                              "sie, in der geteilten Kachel auch die Pfeiltasten."))
+        ->addLayout(tiles);
+    tiles->addTile(makeInvoice());
+    tiles->addTile(makeAccounting());
+    tiles->addTile(makePayroll());
+    tiles->addTile(makeClientTile(), 2);
+    tiles->addTile(makeAnnualAccounts());
+    tiles->addTile(makeReceipts());
+    tiles->addTile(makeTaxReturn());
+    tiles->addTile(makeClients());
+    tiles->addTile(makeBank());
+    tiles->addTile(makeReports());
+    auto *icons = new QHBoxLayout;
+    icons->setSpacing(gap);
+    icons->addWidget(makeIconTile("question", QStringLiteral("Hilfe")), 0, Qt::AlignTop);
+    icons->addWidget(makeIconTile("information", QStringLiteral("Neuigkeiten")), 0, Qt::AlignTop);
+    icons->addWidget(makeIconTile("warning", QStringLiteral("Fristen")), 0, Qt::AlignTop);
+    icons->addStretch(1);
+    tiles->addTiles(icons);
 }
 
 void StartPage::addStates()

@@ -2,10 +2,6 @@
 
 #include "pages/Page.h"
 
-#include <QPair>
-#include <QSize>
-#include <QVector>
-
 /** The start page of an application: tiles of all kinds, in all states. */
 class StartPage : public Page
 {
@@ -19,15 +15,9 @@ public:
 
     int pictureWidth() const override;
 
-protected:
-    bool event(QEvent *event) override;
-
 private:
-    void fitTiles();
     void addTiles();
     void addStates();
     void addSplitTiles();
     void addLastLines();
-
-    QVector<QPair<QWidget *, QSize>> m_tiles; ///< Those that flow, with their least size.
 };
