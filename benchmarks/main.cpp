@@ -83,6 +83,14 @@ constexpr Goal goals[] = {
     {"ribbon/change_text", "resize_step", 1},
     {"ribbon/change_enabled", "resize_step", 1},
     {"ribbon/change_visible", "resize_step", 1},
+    {"toolbar/resize/30", "by_hand", 1.2},
+    {"toolbar/resize/18", "by_hand", 1.2},
+    {"toolbar/badge", "alone", 1.2},
+    {"tabs/notify", "set_tab_text", 0.8},
+    {"tabs/notify", "replaced", 0.3},
+    {"tabs/select", "sheet_again", 0.5},
+    {"tabs/select", "q_tab_bar", none},
+    {"tabs/build", "q_tab_bar", none},
 };
 
 class RatioReporter : public benchmark::ConsoleReporter

@@ -32,6 +32,7 @@ struct Row
 // clang-format off
 constexpr std::array rows{
     Row{"Start", "Übersicht", "seite.startseite", "Startseite", Button, Large, "Q", Icon::Modern, "startseite", "", "Kacheln, mit denen die Arbeit beginnt."},
+    Row{"Start", "Übersicht", "seite.suche", "Suche", Button, Large, "U", Icon::Page, "suche", "", "Treffer, die sich aufklappen lassen."},
     Row{"Start", "Grundlagen", "seite.farben", "Farben", Button, Large, "F", Icon::Colors, "farben", "", "Die Farben des Themas mit ihren Namen."},
     Row{"Start", "Grundlagen", "seite.schriften", "Schriften", Button, Small, "T", Icon::Fonts, "schriften", "", "Schriftschnitte und Größen."},
     Row{"Start", "Grundlagen", "seite.bilder", "Bilder", Button, Small, "B", Icon::Images, "bilder", "", "Bilder für jede Auflösung."},
@@ -41,6 +42,7 @@ constexpr std::array rows{
     Row{"Start", "Bausteine", "seite.beschriftungen", "Beschriftungen", Button, Small, "C", Icon::Labels, "beschriftungen", "", "Texte, Verweise und Kürzungen."},
     Row{"Start", "Bausteine", "seite.links", "Links und Symbole", Button, Small, "I", Icon::Page, "links", "", "Links, und Schaltflächen aus einem Symbol."},
     Row{"Start", "Bausteine", "seite.notices", "Hinweise", Button, Small, "H", Icon::Page, "notices", "", "Hinweise mit Symbol, Text und Verweisen."},
+    Row{"Start", "Bausteine", "seite.vokabular", "Vokabular", Button, Small, "V", Icon::Journal, "vokabular", "", "Buchungen, Knöpfe, Schalter und Texte aus Widgets von Qt."},
     Row{"Start", "Beleg", "beleg.neu", "Neuer<br>Beleg", Button, Large, "N", Icon::New, "", "Ctrl+N", "Legt einen leeren Beleg im laufenden Monat an."},
     Row{"Start", "Beleg", "beleg.oeffnen", "Öffnen", Button, Large, "O", Icon::Open, "", "Ctrl+O", "Öffnet einen erfassten Beleg."},
     Row{"Start", "Beleg", "beleg.speichern", "Speichern", Button, Large, "S", Icon::Save, "", "Ctrl+S", "Speichert den Beleg."},
@@ -94,6 +96,7 @@ constexpr std::array rows{
 
     Row{"Bausteine", "Eingabe", "seite.eingabefelder", "Eingabefelder", Button, Large, "E", Icon::Edit, "eingabefelder", "", "Felder für Texte, Beträge und Daten."},
     Row{"Bausteine", "Eingabe", "seite.comboboxes", "Auswahllisten", Button, Small, "W", Icon::Page, "comboboxes", "", "Auswahllisten in zwei Größen."},
+    Row{"Bausteine", "Eingabe", "seite.schalter", "Schalter", Button, Small, "S", Icon::Page, "schalter", "", "Schalter mit zwei Seiten, beschriftet oder mit Symbolen."},
     Row{"Bausteine", "Eingabe", "seite.overviewcombo", "Große Auswahl", Button, Small, "U", Icon::Page, "overviewcombo", "", "Eine Auswahl mit mehrzeiligen Einträgen."},
     Row{"Bausteine", "Eingabe", "seite.suggestions", "Vorschläge", Button, Small, "V", Icon::Page, "suggestions", "", "Vorschläge beim Tippen."},
     Row{"Bausteine", "Behälter", "seite.accordion", "Akkordeon", Button, Small, "A", Icon::Page, "accordion", "", "Teile, die sich auf- und zuklappen lassen."},
@@ -101,6 +104,8 @@ constexpr std::array rows{
     Row{"Bausteine", "Behälter", "seite.scroll", "Rollen", Button, Small, "R", Icon::Page, "scroll", "", "Rollbereiche, Bildlaufleisten und Pfeile."},
     Row{"Bausteine", "Behälter", "seite.longlist", "Lange Liste", Button, Small, "L", Icon::Page, "longlist", "", "Eine Million Buchungen."},
     Row{"Bausteine", "Behälter", "seite.flow", "Fluss", Button, Small, "F", Icon::Page, "flow", "", "Eine Anordnung, die fließt wie Text."},
+    Row{"Bausteine", "Behälter", "seite.tabs", "Reiter", Button, Small, "T", Icon::Page, "tabs", "", "Reiter und Segmente mit Meldungen."},
+    Row{"Bausteine", "Befehle", "seite.werkzeugleisten", "Werkzeug-<br>leisten", Button, Large, "Z", Icon::Options, "werkzeugleisten", "", "Leisten mit großen Schaltflächen und Zählern."},
     Row{"Bausteine", "Fenster", "seite.dialogs", "Dialoge", Button, Small, "D", Icon::Page, "dialogs", "", "Dialoge im eigenen Rahmen."},
     Row{"Bausteine", "Fenster", "seite.messages", "Meldungen", Button, Small, "M", Icon::Page, "messages", "", "Meldungen und Rückfragen."},
     Row{"Bausteine", "Fenster", "seite.flyouts", "Flyouts", Button, Small, "Y", Icon::Page, "flyouts", "", "Fenster mit Zeiger, die ihrem Ziel folgen."},

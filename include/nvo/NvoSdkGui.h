@@ -3,6 +3,7 @@
 // Every public class of the library.
 
 #include <nvo/AbstractButton.h>
+#include <nvo/AbstractToggle.h>
 #include <nvo/Accordion.h>
 #include <nvo/AccordionBoxIndicator.h>
 #include <nvo/AccordionIndicator.h>
@@ -12,6 +13,7 @@
 #include <nvo/ActionFactory.h>
 #include <nvo/BaseDateEdit.h>
 #include <nvo/BaseEdit.h>
+#include <nvo/BottomSideButton.h>
 #include <nvo/Button.h>
 #include <nvo/CapsLockEventFilter.h>
 #include <nvo/CheckBox.h>
@@ -24,7 +26,9 @@
 #include <nvo/Dialog.h>
 #include <nvo/DialogButton.h>
 #include <nvo/Element.h>
+#include <nvo/ExpandingOverviewButton.h>
 #include <nvo/Export.h>
+#include <nvo/ExtraSearchResultButton.h>
 #include <nvo/FlowLayout.h>
 #include <nvo/Flyout.h>
 #include <nvo/Font.h>
@@ -50,7 +54,9 @@
 #include <nvo/Palette.h>
 #include <nvo/PeriodEdit.h>
 #include <nvo/Pixmap.h>
+#include <nvo/PixmapToggle.h>
 #include <nvo/Product.h>
+#include <nvo/RadioToggle.h>
 #include <nvo/RecyclingList.h>
 #include <nvo/RecyclingListAdapter.h>
 #include <nvo/Ribbon.h>
@@ -68,8 +74,15 @@
 #include <nvo/ScrollAreaWithButton.h>
 #include <nvo/ScrollBar.h>
 #include <nvo/ScrollButton.h>
+#include <nvo/SegmentedControl.h>
 #include <nvo/SelectionMessageBoxBase.h>
 #include <nvo/Separator.h>
 #include <nvo/ShadowSimple.h>
+#include <nvo/TabBar.h>
 #include <nvo/TimeEdit.h>
+#include <nvo/ToolBar.h>
+#include <nvo/ToolBarButton.h>
+#include <nvo/ToolBarGroup.h>
+#include <nvo/ToolBarHiddenButton.h>
+#include <nvo/ToolBarWidget.h>
 #include <nvo/ZoomSlider.h>

@@ -3,8 +3,11 @@
 #include "buttons/AccessibleButton.h"
 #include "overview/LeftSideButton.h"
 #include "overview/RightSideButton.h"
+#include "overview/TopSideButton.h"
 #include "theme/StyleSupport.h"
 
+#include <nvo/BottomSideButton.h>
+#include <nvo/ExtraSearchResultButton.h>
 #include <nvo/Label.h>
 #include <nvo/OverviewButton.h>
 
@@ -39,6 +42,32 @@ QStringList textsOf(const OverviewButton &tile)
     return {tile.description(), tile.note(), tile.hint()};
 }
 
+QString htmlOf(const ExpandingOverviewButton::Path &path)
+{
+    return path.elements.join(QStringLiteral(" > ")).toHtmlEscaped();
+}
+
+QStringList textsOf(const TopSideButton &top)
+{
+    return {top.isTextVisible() ? top.text() : QString(),
+            top.isExpandable() ? top.expandText() : htmlOf(top.path())};
+}
+
+QStringList textsOf(const BottomSideButton &row)
+{
+    return {htmlOf(row.path())};
+}
+
+QString titleOf(const ExtraSearchResultButton &tile)
+{
+    return tile.text();
+}
+
+QStringList textsOf(const ExtraSearchResultButton &)
+{
+    return {};
+}
+
 template <typename Half>
 QString titleOf(const Half &half)
 {
@@ -71,6 +100,80 @@ public:
     }
 };
 
+ExpandingOverviewButton *expandingTile(QWidget *section)
+{
+    QWidget *widget = section->parentWidget();
+    while (widget && !qobject_cast<ExpandingOverviewButton *>(widget))
+        widget = widget->parentWidget();
+    return static_cast<ExpandingOverviewButton *>(widget);
+}
+
+/** A section of an expanding tile is a child of the tile, whatever is between them. */
+template <typename Section>
+class AccessibleSection : public AccessibleTile<Section>
+{
+public:
+    using AccessibleTile<Section>::AccessibleTile;
+
+    QAccessibleInterface *parent() const override
+    {
+        ExpandingOverviewButton *tile = expandingTile(this->button());
+        return tile ? QAccessible::queryAccessibleInterface(tile) : AccessibleTile<Section>::parent();
+    }
+};
+
+class AccessibleTop : public AccessibleSection<TopSideButton>
+{
+public:
+    using AccessibleSection::AccessibleSection;
+
+    QAccessible::State state() const override
+    {
+        const auto &top = *static_cast<const TopSideButton *>(button());
+        QAccessible::State state = AccessibleSection::state();
+        state.expandable = top.isExpandable();
+        state.expanded = top.isExpandable() && top.isPartExpanded();
+        state.collapsed = top.isExpandable() && !top.isPartExpanded();
+        return state;
+    }
+};
+
+/** The buttons of an expanding tile that can be seen, without the part of an accordion around them. */
+class AccessibleExpandingTile : public QAccessibleWidget
+{
+public:
+    explicit AccessibleExpandingTile(ExpandingOverviewButton *tile)
+        : QAccessibleWidget(tile, QAccessible::Grouping)
+    {}
+
+    int childCount() const override { return sections().size(); }
+    QAccessibleInterface *child(int index) const override
+    {
+        return QAccessible::queryAccessibleInterface(sections().value(index));
+    }
+    int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        return child ? sections().indexOf(qobject_cast<OverviewButtonBase *>(child->object())) : -1;
+    }
+    QString text(QAccessible::Text type) const override
+    {
+        const QString own = QAccessibleWidget::text(type);
+        return type == QAccessible::Name && own.isEmpty() ? plain(tile()->title()) : own;
+    }
+
+private:
+    ExpandingOverviewButton *tile() const { return static_cast<ExpandingOverviewButton *>(object()); }
+    QList<OverviewButtonBase *> sections() const
+    {
+        QList<OverviewButtonBase *> sections;
+        for (OverviewButtonBase *section : tile()->findChildren<OverviewButtonBase *>()) {
+            if (section->isVisibleTo(tile()))
+                sections.append(section);
+        }
+        return sections;
+    }
+};
+
 QAccessibleInterface *createInterface(const QString &className, QObject *object)
 {
     using StyleSupport::exactly;
@@ -80,6 +183,14 @@ QAccessibleInterface *createInterface(const QString &className, QObject *object)
         return new AccessibleTile<LeftSideButton>(left);
     if (auto *right = exactly<RightSideButton>(className, object))
         return new AccessibleTile<RightSideButton>(right);
+    if (auto *top = exactly<TopSideButton>(className, object))
+        return new AccessibleTop(top);
+    if (auto *row = exactly<BottomSideButton>(className, object))
+        return new AccessibleSection<BottomSideButton>(row);
+    if (auto *tile = exactly<ExtraSearchResultButton>(className, object))
+        return new AccessibleTile<ExtraSearchResultButton>(tile);
+    if (auto *tile = exactly<ExpandingOverviewButton>(className, object))
+        return new AccessibleExpandingTile(tile);
     if (auto *tile = exactly<OverviewButtonBase>(className, object))
         return new AccessibleButton(tile);
     return nullptr;

@@ -73,9 +73,9 @@ private Q_SLOTS:
         QFETCH(bool, rightToLeft);
         Page<OverviewButton3Children> page;
         OverviewButton3Children &tile = page.tile;
-        tile.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
         QCOMPARE(tile.sizeHint().height(), 3 * 63 + 2);
         tile.setRightSideVisible(unsigned(count));
+        tile.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
         QVERIFY(count == 0 || tile.sizeHint().height() == 3 * 63 + 2);
         tile.setFixedSize(400, 3 * 70 + 2);
         page.window.adjustSize();
@@ -91,6 +91,7 @@ private Q_SLOTS:
             QCOMPARE(at(399, y), QColor(Qt::black));
             QCOMPARE(at(100, y), QColor(frame ? Qt::black : Qt::white));
             QCOMPARE(at(200, y), QColor(frame || count > 0 ? Qt::black : Qt::white));
+            QCOMPARE(at(199, y), QColor(frame ? Qt::black : Qt::white)); // beside the line, not a second one
             QCOMPARE(at(300, y), QColor(frame ? Qt::black : line ? Qt::green : Qt::white));
         }
         QVector<int> corners;

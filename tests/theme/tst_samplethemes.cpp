@@ -119,43 +119,14 @@ private Q_SLOTS:
     void sheets()
     {
         const QRegularExpression tokens("\\b((BASE)?COLOR|GRADIENT)_\\w+|\\b(SEMI)?(BOLD|LIGHT)\\b");
-        for (const NVO::Element element : {NVO::ElementAccordion,
-                                           NVO::ElementAccordionBoxIndicator,
-                                           NVO::ElementButton,
-                                           NVO::ElementCheckBox,
-                                           NVO::ElementComboBox,
-                                           NVO::ElementCompleter,
-                                           NVO::ElementDateEdit,
-                                           NVO::ElementDialog,
-                                           NVO::ElementDialogButton,
-                                           NVO::ElementFlyout,
-                                           NVO::ElementGroupBox,
-                                           NVO::ElementIconButton,
-                                           NVO::ElementInfoBox,
-                                           NVO::ElementLineEdit,
-                                           NVO::ElementLineEditWithButton,
-                                           NVO::ElementLink,
-                                           NVO::ElementMessageBox,
-                                           NVO::ElementNumericEdit,
-                                           NVO::ElementOverviewButton,
-                                           NVO::ElementOverviewComboBox,
-                                           NVO::ElementPeriodEdit,
-                                           NVO::ElementScrollBar,
-                                           NVO::ElementScrollButton,
-                                           NVO::ElementSelectionMessageBox,
-                                           NVO::ElementSeparator,
-                                           NVO::ElementTimeEdit,
-                                           NVO::ElementRibbon,
-                                           NVO::ElementRibbonButton,
-                                           NVO::ElementRibbonCheckBox,
-                                           NVO::ElementRibbonGroup,
-                                           NVO::ElementRibbonGroupButton,
-                                           NVO::ElementRibbonGroupObject,
-                                           NVO::ElementRibbonLabel,
-                                           NVO::ElementZoomSlider}) {
-            const QString sheet = NVO::Css::instance().css(element);
+        for (int element = NVO::ElementAccordion; element <= NVO::ElementZoomSlider; ++element) {
+            const QString sheet = NVO::Css::instance().css(NVO::Element(element));
             QCss::StyleSheet parsed;
-            QVERIFY(!sheet.isEmpty() && QCss::Parser(sheet).parse(&parsed, Qt::CaseSensitive));
+            const QByteArray name = QByteArray::number(element);
+            QVERIFY2(!sheet.isEmpty() && QCss::Parser(sheet).parse(&parsed, Qt::CaseSensitive), name);
+            QWidget widget;
+            widget.setStyleSheet(sheet); // warns of what it cannot read
+            widget.ensurePolished();
             const QStringList targets = NVO::Css::imports(sheet);
             for (const QString &target : targets)
                 QVERIFY2(QFile::exists(target), qPrintable(target));

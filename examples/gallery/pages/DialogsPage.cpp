@@ -7,11 +7,12 @@
 #include <nvo/CheckBox.h>
 #include <nvo/Dialog.h>
 #include <nvo/Label.h>
+#include <nvo/LineEdit.h>
+#include <nvo/NumericEdit.h>
 
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
 #include <functional>
@@ -24,6 +25,9 @@ using Types = QFlags<DialogButton::ButtonType>;
 
 constexpr int contentWidth = 380;
 constexpr int contentMargin = 20;
+constexpr int shadowRoom = 10; // beside a dialog with a shadow
+constexpr int maximumAmount = 9999999;
+constexpr int paidAmount = 1190;
 
 /** A dialog with its protected setters in reach. */
 class SampleDialog : public Dialog
@@ -45,8 +49,13 @@ QWidget *makeForm()
     auto *layout = new QFormLayout(form);
     layout->setContentsMargins(contentMargin, contentMargin, contentMargin, contentMargin);
     layout->setSpacing(10);
-    layout->addRow(makeLabel(QStringLiteral("Empfänger")), new QLineEdit(QStringLiteral("Muster GmbH")));
-    layout->addRow(makeLabel(QStringLiteral("Betrag")), new QLineEdit(QStringLiteral("1.190,00 €")));
+    auto *receiver = new NVO::LineEdit;
+    receiver->setText(QStringLiteral("Muster GmbH"));
+    auto *amount = new NVO::NumericEdit;
+    amount->setRange(maximumAmount, 2, QStringLiteral("€"), NVO::NumericEdit::NoFlag);
+    amount->setValue(paidAmount);
+    layout->addRow(makeLabel(QStringLiteral("Empfänger")), receiver);
+    layout->addRow(makeLabel(QStringLiteral("Betrag")), amount);
     form->setMinimumWidth(contentWidth);
     return form;
 }
@@ -139,6 +148,23 @@ const QVector<Sample> &samples()
     return samples;
 }
 
+/** \a sample above its caption; frames and captions stand below each other, with and without a shadow. */
+QLayout *picture(const Sample &sample)
+{
+    QWidget *dialog = embedded(sample.make());
+    const int left = shadowRoom - dialog->layout()->contentsMargins().left();
+    NVO::Label *caption = makeCaption(QString::fromUtf8(sample.caption));
+    caption->setContentsMargins(shadowRoom, 0, 0, 0);
+    auto *frame = new QHBoxLayout;
+    frame->addSpacing(left);
+    frame->addWidget(dialog);
+    auto *column = new QVBoxLayout;
+    column->setSpacing(left > 0 ? shadowRoom : 0); // the shadow has its room below, too
+    column->addLayout(frame);
+    column->addWidget(caption);
+    return column;
+}
+
 /** A row of buttons as dialogs use them together, with the default one. */
 struct ButtonSet
 {
@@ -194,8 +220,7 @@ void DialogsPage::addParts()
     grid->setSpacing(pageMargin);
     for (int i = 0; i < samples().size(); ++i) {
         const Sample &sample = samples().at(i);
-        grid->addLayout(withCaption(embedded(sample.make()), QString::fromUtf8(sample.caption)), i / 2, i % 2,
-                        Qt::AlignLeft | Qt::AlignTop);
+        grid->addLayout(picture(sample), i / 2, i % 2, Qt::AlignLeft | Qt::AlignTop);
     }
     grid->setColumnStretch(2, 1);
     addSection(QStringLiteral("Der Rahmen"),

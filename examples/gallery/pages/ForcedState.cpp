@@ -1,6 +1,7 @@
 #include "pages/ForcedState.h"
 
 #include <nvo/AbstractButton.h>
+#include <nvo/AbstractToggle.h>
 #include <nvo/Button.h>
 #include <nvo/OverviewButtonBase.h>
 
@@ -107,8 +108,8 @@ void ForcedState::followFocus(QWidget *focusWidget)
 {
     m_widget->setFocusProxy(focusWidget);
     m_widget->update();
-    if (qobject_cast<NVO::OverviewButtonBase *>(m_widget)) {
-        QEvent leaveEvent(QEvent::Leave); // a tile tells those around it when it looks at its state
+    if (qobject_cast<NVO::OverviewButtonBase *>(m_widget) || qobject_cast<NVO::AbstractToggle *>(m_widget)) {
+        QEvent leaveEvent(QEvent::Leave); // tiles and toggles tell their parts when they look at their state
         QApplication::sendEvent(m_widget, &leaveEvent);
     }
 }

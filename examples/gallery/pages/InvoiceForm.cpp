@@ -145,7 +145,10 @@ void InvoiceForm::addRows()
     addRow(QStringLiteral("Rechnungsdatum"), m_date);
     addRow(QStringLiteral("Fällig am"), m_dueDate);
     addRow(QStringLiteral("Leistungszeitraum"), m_period);
-    grid->setRowMinimumHeight(grid->rowCount(), 4);
+    auto *gap = new QWidget; // a row without a widget would not count
+    gap->setFixedHeight(4);
+    grid->addWidget(gap, grid->rowCount(), 0);
+    const int amounts = grid->rowCount();
     addHeading(QStringLiteral("Beträge"));
     addRow(QStringLiteral("Nettobetrag"), m_net);
     addRow(QStringLiteral("Steuersatz"), m_rate);
@@ -161,7 +164,7 @@ void InvoiceForm::addRows()
     column->addWidget(m_record);
     ground->setMinimumWidth(recordWidth);
     grid->setColumnMinimumWidth(2, 2 * pageMargin);
-    grid->addWidget(ground, 1, 3, grid->rowCount() - 1, 1, Qt::AlignTop);
+    grid->addWidget(ground, amounts, 3, grid->rowCount() - amounts, 1, Qt::AlignTop);
     grid->setColumnStretch(3, 1);
 }
 

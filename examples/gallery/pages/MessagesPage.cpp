@@ -9,6 +9,7 @@
 #include <nvo/SelectionMessageBoxBase.h>
 
 #include <QDialog>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -58,6 +59,14 @@ QWidget *sample(QMessageBox::Icon icon, const QString &title, const QString &tex
     return embedded(new MessageBox(icon, title, text, buttons, defaultButton, nullptr));
 }
 
+QGridLayout *makeGrid()
+{
+    auto *grid = new QGridLayout;
+    grid->setSpacing(12);
+    grid->setColumnStretch(2, 1);
+    return grid;
+}
+
 } // namespace
 
 MessagesPage::MessagesPage()
@@ -70,9 +79,11 @@ MessagesPage::MessagesPage()
 
 void MessagesPage::addIcons()
 {
-    QVBoxLayout *section =
-        addSection(QStringLiteral("Vier Anlässe"), QStringLiteral("Ein kurzer Text steht auf 520 Pixeln."));
-    const auto add = [section](QWidget *box) { section->addWidget(box, 0, Qt::AlignLeft); };
+    auto *grid = makeGrid();
+    const auto add = [grid](QWidget *box) {
+        const int place = grid->count();
+        grid->addWidget(box, place / 2, place % 2, Qt::AlignLeft | Qt::AlignTop);
+    };
     add(sample(QMessageBox::Information, QStringLiteral("Ausgabe"),
                QStringLiteral("Die Auswertung wurde gespeichert."), DialogButton::Ok, DialogButton::Ok));
     add(sample(QMessageBox::Question, QStringLiteral("Beenden"),
@@ -84,14 +95,14 @@ void MessagesPage::addIcons()
     add(sample(QMessageBox::Critical, QStringLiteral("Verbindung"),
                QStringLiteral("Die Bank antwortet nicht. <a href=\"protokoll\">Protokoll anzeigen</a>"),
                DialogButton::Retry | DialogButton::Close, DialogButton::Retry));
+    addSection(QStringLiteral("Vier Anlässe"), QStringLiteral("Ein kurzer Text steht auf 520 Pixeln."))
+        ->addLayout(grid);
 }
 
 void MessagesPage::addTexts()
 {
-    QVBoxLayout *section = addSection(QStringLiteral("Länge und Zusatz"),
-                                      QStringLiteral("Ein Text, der umbricht, bekommt 630 Pixel. Das "
-                                                     "Ankreuzfeld steht unter der Knopfreihe."));
-    section->addWidget(
+    auto *grid = makeGrid();
+    grid->addWidget(
         sample(
             QMessageBox::Warning, QStringLiteral("Umsatzsteuer-Voranmeldung"),
             QStringLiteral("Zu <b>drei Buchungen</b> fehlt der Beleg. Sie können die Voranmeldung trotzdem "
@@ -99,17 +110,21 @@ void MessagesPage::addTexts()
                            "fehlt, steht in der <a href=\"liste\">Liste der offenen Belege</a>, die Sie auch "
                            "später unter „Auswertung“ finden."),
             DialogButton::Yes | DialogButton::No, DialogButton::No),
-        0, Qt::AlignLeft);
+        0, 0, 1, 2, Qt::AlignLeft);
     auto *box = new MessageBox(QMessageBox::Question, QStringLiteral("Rechnung löschen?"),
                                QStringLiteral("Die Rechnung 2026-0417 wird gelöscht."),
                                DialogButton::Yes | DialogButton::No, DialogButton::No, nullptr);
     box->setCheckbox(QStringLiteral("Nicht mehr fragen"), Qt::Checked);
     box->setHelpFilePath(QStringLiteral("hilfe/rechnung.html"));
-    section->addWidget(embedded(box), 0, Qt::AlignLeft);
-    section->addWidget(sample(QMessageBox::NoIcon, QStringLiteral("Ohne Bild"),
-                              QStringLiteral("Der Text beginnt am linken Rand."), DialogButton::Close,
-                              DialogButton::Close),
-                       0, Qt::AlignLeft);
+    grid->addWidget(embedded(box), 1, 0, Qt::AlignLeft | Qt::AlignTop);
+    grid->addWidget(sample(QMessageBox::NoIcon, QStringLiteral("Ohne Bild"),
+                           QStringLiteral("Der Text beginnt am linken Rand."), DialogButton::Close,
+                           DialogButton::Close),
+                    1, 1, Qt::AlignLeft | Qt::AlignTop);
+    addSection(QStringLiteral("Länge und Zusatz"),
+               QStringLiteral("Ein Text, der umbricht, bekommt 630 Pixel. Das Ankreuzfeld steht unter der "
+                              "Knopfreihe."))
+        ->addLayout(grid);
 }
 
 void MessagesPage::addSelection()

@@ -229,7 +229,7 @@ void ScrollPage::addAreas()
     row->addLayout(framed(makeArrowArea(ArrowStyle::Dark, LabelRole::Text), Ground::Outline, 0,
                           QStringLiteral("mit Pfeilen")));
     row->addLayout(framed(makeArrowArea(ArrowStyle::Error, LabelRole::Error), Ground::Outline, 0,
-                          QStringLiteral("mit Pfeilen über fehlerhaften Angaben")));
+                          QStringLiteral("mit Pfeilen, fehlerhaft")));
     row->addLayout(framed(makeArrowArea(ArrowStyle::Light, LabelRole::CaptionOnDark), Ground::Dark, 1,
                           QStringLiteral("mit Pfeilen auf dunklem Grund")));
     row->addStretch();
