@@ -23,8 +23,8 @@ QString indexKey(const QWidget *widget, const Action *action);
 QString indexEntry(const QWidget *widget, const Action *action);
 
 /** The object names of the labels that show the keys of tabs and of controls. */
-constexpr QLatin1String tabKeytip("RibbonKeytip");
-constexpr QLatin1String controlKeytip("RibbonGroupKeytip");
+const QLatin1String tabKeytip("RibbonKeytip");
+const QLatin1String controlKeytip("RibbonGroupKeytip");
 
 /** The label that shows a key; it is a child of \a parent and does not show yet. */
 QLabel *createKeytip(QWidget *parent, QLatin1String objectName, const QString &text);
