@@ -3,6 +3,8 @@
 #include "pages/ForcedState.h"
 #include "pages/PageSupport.h"
 
+#include <nvo/ExpandingOverviewButton.h>
+#include <nvo/ExtraSearchResultButton.h>
 #include <nvo/Label.h>
 #include <nvo/OverviewButton.h>
 #include <nvo/OverviewButton3Children.h>
@@ -38,8 +40,8 @@ class TileLayout : public QLayout
 public:
     ~TileLayout() override
     {
-        for (const Item &item : qAsConst(m_items))
-            delete item.item;
+        while (!m_items.isEmpty()) // a layout in it takes itself out when it dies
+            delete m_items.takeLast().item;
     }
     void addTile(QWidget *tile, int columns = 1)
     {
@@ -262,6 +264,27 @@ OverviewButton3Children *makeAnnualAccounts()
     return tile;
 }
 
+NVO::ExpandingOverviewButton *makeLastHit()
+{
+    auto *tile = new NVO::ExpandingOverviewButton(nullptr);
+    tile->setIcon(image("tile_receipts"));
+    tile->setTitle(QStringLiteral("Zuletzt gesucht: Papier Lang e. K."));
+    tile->setText(QStringLiteral("Lieferant 70012, zwei Belege im April"));
+    tile->setPaths(
+        {{QStringLiteral("Eingangsrechnung ER-0231"),
+          {1, {QStringLiteral("Rechnungswesen"), QStringLiteral("Kreditoren"), QStringLiteral("April")}}},
+         {QStringLiteral("Offene Posten"),
+          {2, {QStringLiteral("Rechnungswesen"), QStringLiteral("Kreditoren"), QStringLiteral("70012")}}}});
+    return tile;
+}
+
+NVO::ExtraSearchResultButton *makeMoreHits()
+{
+    auto *button = new NVO::ExtraSearchResultButton(nullptr);
+    button->setText(QStringLiteral("Alle 48 Treffer anzeigen"));
+    return button;
+}
+
 /** The sections of a tile, in the order in which the keyboard reaches them. */
 QList<NVO::OverviewButtonBase *> sectionsOf(QWidget *tile)
 {
@@ -324,6 +347,10 @@ void StartPage::addTiles()
     icons->addWidget(makeIconTile("warning", QStringLiteral("Fristen")), 0, Qt::AlignTop);
     icons->addStretch(1);
     tiles->addTiles(icons);
+    tiles->addTile(makeLastHit(), 2);
+    auto *more = new QVBoxLayout;
+    more->addWidget(makeMoreHits(), 0, Qt::AlignTop);
+    tiles->addTiles(more);
 }
 
 void StartPage::addStates()
