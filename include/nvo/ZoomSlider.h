@@ -6,8 +6,6 @@
 #include <QVector>
 #include <QWidget>
 
-#include <functional>
-
 class QAction;
 class QHBoxLayout;
 class QMenu;
@@ -102,7 +100,6 @@ private:
     void plusClicked();
     void step(int action);
     void slotValueChanged(int p_value);
-    void announce(const std::function<void()> &emitSignal);
     void zoomActionTriggered(const QAction *action);
     void reserveLinkWidth();
 
@@ -112,7 +109,6 @@ private:
     QPointer<QAction> m_pageZoomAction;
     QWidget *m_sliderPart;
     QWidget *m_buttonPart;
-    bool m_announcing = false;
 };
 
 } // namespace NVO

@@ -19,7 +19,7 @@ QStandardItem *OverviewComboBoxItem::clone() const
 
 QVariant OverviewComboBoxItem::data(int role) const
 {
-    const QVariant own = QStandardItem::data(role);
+    QVariant own = QStandardItem::data(role);
     if (own.isValid())
         return own;
     if (role == Qt::AccessibleTextRole) {

@@ -13,8 +13,6 @@
 #include <QResizeEvent>
 #include <QSlider>
 
-#include <utility>
-
 namespace NVO {
 
 namespace {
@@ -61,8 +59,7 @@ ZoomSlider::ZoomSlider(QWidget *parent)
     layout->addWidget(m_buttonPart);
     buildSliderPart();
     buildButtonPart();
-    for (QWidget *part : {static_cast<QWidget *>(this), m_sliderPart, m_buttonPart,
-                          static_cast<QWidget *>(m_slider), static_cast<QWidget *>(m_link)})
+    for (QWidget *part : QWidgetList{this, m_sliderPart, m_buttonPart, m_slider, m_link})
         part->setAttribute(Qt::WA_LayoutUsesWidgetRect);
 
     setZoomLevels({200, 100, 75, 50});
@@ -72,14 +69,14 @@ ZoomSlider::ZoomSlider(QWidget *parent)
 
 ZoomSlider::~ZoomSlider()
 {
-    if (!m_announcing)
+    if (!sender())
         return;
-    // What has been pressed or chosen goes on after its signal, which neither a slider nor a menu outlives.
-    for (QWidget *sender : {static_cast<QWidget *>(m_slider), static_cast<QWidget *>(m_link->menu())}) {
-        if (!sender)
+    // Slider and menu, which may have led here by what they emit, cannot bear to be deleted meanwhile.
+    for (QWidget *part : QWidgetList{m_slider, m_link->menu()}) {
+        if (!part)
             continue;
-        sender->setParent(nullptr);
-        sender->deleteLater();
+        part->setParent(nullptr);
+        part->deleteLater();
     }
 }
 
@@ -146,6 +143,7 @@ QPushButton *ZoomSlider::addButton(QHBoxLayout *layout, const QString &icon, con
     button->setIcon(StyleSupport::fileIcon(icon));
     button->setToolTip(toolTip);
     button->setAccessibleName(toolTip);
+    button->setAccessibleDescription(this->toolTip()); // without one, it would be the name again
     layout->addWidget(button);
     return button;
 }
@@ -225,7 +223,7 @@ QAction *ZoomSlider::createZoomAction(QMenu *menu, int value, void (ZoomSlider::
     action->setData(value);
     connect(action, &QAction::triggered, this, [this, action] { zoomActionTriggered(action); });
     if (signal)
-        connect(action, &QAction::triggered, this, [this, signal] { announce([=] { (this->*signal)(); }); });
+        connect(action, &QAction::triggered, this, signal);
     menu->addAction(action);
     return action;
 }
@@ -272,17 +270,7 @@ void ZoomSlider::slotValueChanged(int p_value)
 {
     m_link->setText(QString::number(m_slider->value()) + QLatin1Char('%'));
     m_link->setAccessibleName(toolTip() + QLatin1Char(' ') + m_link->text());
-    announce([=] { Q_EMIT valueChanged(p_value); });
-}
-
-/** Lets \a emitSignal emit, so that the destructor knows that slider or menu may be on the way. */
-void ZoomSlider::announce(const std::function<void()> &emitSignal)
-{
-    const QPointer<ZoomSlider> alive(this);
-    const bool before = std::exchange(m_announcing, true);
-    emitSignal();
-    if (alive)
-        m_announcing = before;
+    Q_EMIT valueChanged(p_value);
 }
 
 QSize ZoomSlider::sizeHint() const

@@ -12,6 +12,8 @@
 #include <QSlider>
 #include <QtTest>
 
+#include <memory>
+
 using NVO::ZoomSlider;
 
 namespace {
@@ -73,11 +75,20 @@ private Q_SLOTS:
             QCOMPARE(QVector<int>({strip.minimum(), strip.value(), strip.maximum()}),
                      QVector<int>({10, 100, 200}));
             QCOMPARE(entries(strip), QStringList({"200%", "100%", "75%", "50%"}) + pageEntries);
+            QCOMPARE(child<QSlider>(strip)->pageStep(), 10);
+            QCOMPARE(strip.focusProxy(), child<QSlider>(strip));
+            QCOMPARE(child<NVO::Link>(strip)->textAlignment(), Qt::AlignRight | Qt::AlignVCenter);
             const auto style = variant == 1 ? NVO::Link::FlyoutLight : NVO::Link::FlyoutDark;
             QCOMPARE(child<NVO::Link>(strip)->linkStyle(), style);
             for (const QWidget *part : strip.findChildren<QWidget *>()) {
                 QCOMPARE(part->testAttribute(Qt::WA_LayoutUsesWidgetRect), part->window() == &strip);
                 QCOMPARE(part->focusPolicy() != Qt::NoFocus, part == child<QSlider>(strip));
+                if (part->cursor().shape() != Qt::PointingHandCursor || part == child<NVO::Link>(strip))
+                    continue;
+                const QAccessibleInterface *seen =
+                    QAccessible::queryAccessibleInterface(const_cast<QWidget *>(part));
+                QCOMPARE(seen->text(QAccessible::Name), part->toolTip().isEmpty() ? "Zoom" : part->toolTip());
+                QCOMPARE(seen->text(QAccessible::Description), part->toolTip().isEmpty() ? "" : "Zoom");
             }
         }
     }
@@ -128,6 +139,26 @@ private Q_SLOTS:
             QCOMPARE(QAccessible::queryAccessibleInterface(link)->text(QAccessible::Name),
                      "Zoom " + link->text());
         }
+    }
+
+    /** The text says what the value is by now. */
+    void valueSetBySlot()
+    {
+        ZoomSlider strip;
+        QStringList texts;
+        const auto note = [&] { texts.append(child<NVO::Link>(strip)->text()); };
+        connect(child<QSlider>(strip), &QSlider::valueChanged, &strip, note);
+        connect(&strip, &ZoomSlider::valueChanged, &strip, [&] { strip.setValue(60); });
+        strip.setValue(150);
+        QCOMPARE(texts, QStringList({"60%", "60%"}));
+    }
+
+    void end()
+    {
+        auto strip = std::make_unique<ZoomSlider>();
+        const QPointer<QSlider> slider(child<QSlider>(*strip));
+        strip.reset();
+        QVERIFY(!slider);
     }
 
     void levels()
@@ -203,6 +234,10 @@ private Q_SLOTS:
     void width()
     {
         const FontDeltaGuard guard;
+        const ZoomSlider unseen;
+        const int hintOfUnseen = unseen.sizeHint().width();
+        const ZoomSlider alsoUnseen;
+        QCOMPARE(unseen.minimumSizeHint(), alsoUnseen.minimumSizeHint());
         QWidget bar;
         ZoomSlider strip(&bar);
         const auto *slider = child<QSlider>(strip);
@@ -212,6 +247,8 @@ private Q_SLOTS:
             const int linkWidth = strip.fontMetrics().horizontalAdvance("X00%") + 16;
             const int hint = strip.sizeHint().width();
             const int least = strip.minimumSizeHint().width();
+            QCOMPARE(strip.sizeHint().height(), qMax(16, child<NVO::Link>(strip)->sizeHint().height()));
+            QCOMPARE(hintOfUnseen == hint, delta == 0);
             QCOMPARE(least, linkWidth + 20 + 16 + 20 + 16);
             QCOMPARE(hint - least, 20 + 16 + 10 + qMin(100, slider->sizeHint().width()) + 10 + 16 + 15);
             for (const int width : {hint, hint - 1, 3 * hint, least, 0, hint + 1}) {
