@@ -27,6 +27,13 @@ QString withoutMnemonic(QString text)
     return text.replace(QRegularExpression(QStringLiteral("&(.)")), QStringLiteral("\\1"));
 }
 
+/** Of a tab, whether it stands in the tab itself or beside a notification. */
+QString titleOf(const QTabBar &bar, int index)
+{
+    const NotificationButton *button = NotificationButton::of(&bar, index);
+    return button ? button->title() : bar.tabText(index);
+}
+
 QString nameOf(const QTabBar &bar, int index)
 {
     QString given = bar.accessibleTabName(index);
@@ -88,7 +95,7 @@ public:
         case QAccessible::Help:
             return m_bar->tabWhatsThis(m_index);
         case QAccessible::Accelerator:
-            return QKeySequence::mnemonic(m_bar->tabText(m_index)).toString(QKeySequence::NativeText);
+            return QKeySequence::mnemonic(titleOf(*m_bar, m_index)).toString(QKeySequence::NativeText);
         default:
             return QString();
         }

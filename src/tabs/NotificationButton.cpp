@@ -8,6 +8,9 @@
 #include <QEvent>
 #include <QFontMetrics>
 #include <QHBoxLayout>
+#include <QRegularExpression>
+#include <QShortcut>
+#include <QStyle>
 #include <QTabBar>
 #include <QVariant>
 
@@ -25,10 +28,19 @@ int textWidth(const QFont &font, const QString &text)
     return QFontMetrics(font).horizontalAdvance(text);
 }
 
+/** \a title as a tab shows it: "&" marks a letter, "&&" stands for one. */
+QString shown(QString title, bool isUnderlined)
+{
+    static const QRegularExpression mark(QStringLiteral("&(?!amp;)(.)"));
+    return title.replace(QLatin1String("&&"), QLatin1String("&amp;"))
+        .replace(mark, isUnderlined ? QStringLiteral("<u>\\1</u>") : QStringLiteral("\\1"));
+}
+
 } // namespace
 
 NotificationButton::NotificationButton(QTabBar *bar)
     : QWidget(bar)
+    , m_mnemonic(new QShortcut(this))
 {
     setAttribute(Qt::WA_TransparentForMouseEvents); // the mouse is for the tab
     auto *row = new QHBoxLayout(this);
@@ -41,22 +53,28 @@ NotificationButton::NotificationButton(QTabBar *bar)
     applyFonts();
     m_filler = addSpace();
     m_filler->setFixedWidth(0);
+    connect(m_mnemonic, &QShortcut::activated, bar, [this, bar] { bar->setCurrentIndex(index()); });
 }
 
 NotificationButton::~NotificationButton()
 {
-    auto *bar = qobject_cast<QTabBar *>(parentWidget());
-    for (int i = 0; bar && i < bar->count(); ++i) {
-        if (bar->tabButton(i, QTabBar::RightSide) == this) {
-            bar->setTabButton(i, QTabBar::RightSide, nullptr);
-            return;
-        }
-    }
+    if (auto *bar = qobject_cast<QTabBar *>(parentWidget()))
+        bar->setTabButton(index(), QTabBar::RightSide, nullptr);
 }
 
 NotificationButton *NotificationButton::of(const QTabBar *bar, int index)
 {
     return dynamic_cast<NotificationButton *>(bar->tabButton(index, QTabBar::RightSide));
+}
+
+/** That of its tab; -1 if it is on none. */
+int NotificationButton::index() const
+{
+    const auto *bar = qobject_cast<QTabBar *>(parentWidget());
+    int index = bar ? bar->count() - 1 : -1;
+    while (index >= 0 && bar->tabButton(index, QTabBar::RightSide) != this)
+        --index;
+    return index;
 }
 
 QString NotificationButton::title() const
@@ -82,6 +100,10 @@ void NotificationButton::setTexts(const QString &title, const QString &notificat
     if (isCurrent)
         titleFont.setBold(true);
     m_title->setText(title);
+    if (title.contains(QLatin1Char('&')))
+        m_title->QLabel::setText(
+            shown(title, style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this)));
+    m_mnemonic->setKey(QKeySequence::mnemonic(title));
     m_title->setFixedWidth(textWidth(titleFont, title));
     m_notification->setText(notification);
     m_notification->setFixedWidth(

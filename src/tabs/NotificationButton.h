@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QWidget>
 
+class QShortcut;
 class QTabBar;
 
 namespace NVO {
@@ -48,11 +49,13 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    int index() const;
     int usedWidth() const;
     void fill(int width);
     Label *addLabel();
     QWidget *addSpace();
 
+    QShortcut *m_mnemonic; // a tab without text has none
     QPointer<Label> m_title;
     QPointer<Label> m_notification;
     QPointer<QWidget> m_filler;

@@ -232,8 +232,7 @@ void SegmentedControl::slotCurrentChanged()
         }
     }
     initStyleSheet();
-    QEvent change(QEvent::StyleChange); // the titles may have other widths, so the layout is due again
-    QTabBar::changeEvent(&change);
+    tabLayoutChange(); // the titles have other widths
 }
 
 } // namespace NVO
