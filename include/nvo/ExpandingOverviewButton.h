@@ -99,6 +99,9 @@ Q_SIGNALS:
     /** The only target, or that of a row, was chosen. */
     void clicked(const NVO::ExpandingOverviewButton::Path &p_path);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void createHeader();
     QList<BottomSideButton *> makeRows(QWidget *content);
@@ -112,6 +115,7 @@ private:
     AccordionPart *m_accordionPart;
     TopSideButton *m_topSideButton;
     SeparatorLine *m_separator;
+    QWidget *m_foldEdge; // closes the tile at the bottom while it moves
     QVector<QPair<QString, Path>> m_paths;
     ButtonStyle m_buttonStyle = SearchHits;
 };

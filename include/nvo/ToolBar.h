@@ -3,7 +3,6 @@
 #include <nvo/Export.h>
 
 #include <QToolBar>
-#include <QVector>
 
 namespace NVO {
 
@@ -36,8 +35,6 @@ private:
     void manipulateActions();
     void fitText(QAction *action);
     bool isTight() const;
-
-    QVector<const QAction *> m_fitting; // whose texts are being set, perhaps one inside the other
 };
 
 } // namespace NVO

@@ -10,12 +10,12 @@ namespace NVO {
 
 namespace {
 
-/** On one line and without the marks of mnemonics. */
+/** On one line and without the marks of mnemonics; an "&" between words is none. */
 QString spoken(QString text)
 {
     text.replace(QLatin1String("<br>"), QLatin1String(" "));
     text.replace(QLatin1Char('\n'), QLatin1Char(' '));
-    return text.replace(QRegularExpression(QStringLiteral("&(.)")), QStringLiteral("\\1"));
+    return text.replace(QRegularExpression(QStringLiteral("&(\\S)")), QStringLiteral("\\1"));
 }
 
 QAccessibleInterface *createInterface(const QString &className, QObject *object)

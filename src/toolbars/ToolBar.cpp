@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QActionEvent>
 #include <QPointer>
+#include <QVector>
 
 namespace NVO {
 
@@ -25,6 +26,13 @@ QString onTwoLines(QString text)
     return text;
 }
 
+/** Whose texts are being set by any bar, perhaps one inside the other. */
+QVector<const QAction *> &actionsInFitting()
+{
+    static QVector<const QAction *> actions;
+    return actions;
+}
+
 } // namespace
 
 ToolBar::ToolBar(QWidget *p_parent)
@@ -45,7 +53,7 @@ void ToolBar::actionEvent(QActionEvent *event)
 {
     QToolBar::actionEvent(event);
     // While texts are being set each comes back as a change, and whoever sets them sees to the others.
-    if (event->type() == QEvent::ActionChanged && !m_fitting.isEmpty())
+    if (event->type() == QEvent::ActionChanged && !actionsInFitting().isEmpty())
         fitText(event->action());
     else
         manipulateActions();
@@ -65,17 +73,17 @@ void ToolBar::manipulateActions()
         fitText(actions().at(i));
 }
 
+/** Bars that share an action count their answers together; each on its own, their time would be exponential.
+ */
 void ToolBar::fitText(QAction *action)
 {
     const QString text = action->text();
     const QString fitting = isTight() ? onTwoLines(text) : onOneLine(text);
-    if (fitting == text || m_fitting.count(action) >= mostAnswers)
+    if (fitting == text || actionsInFitting().count(action) >= mostAnswers)
         return;
-    const QPointer<ToolBar> alive(this);
-    m_fitting.append(action);
+    actionsInFitting().append(action);
     action->setText(fitting);
-    if (alive)
-        m_fitting.removeLast();
+    actionsInFitting().removeLast();
 }
 
 bool ToolBar::isTight() const

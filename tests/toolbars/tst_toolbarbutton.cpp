@@ -5,24 +5,15 @@
 #include "TestResources.h"
 
 #include <nvo/Css.h>
-#include <nvo/Palette.h>
 #include <nvo/ToolBarButton.h>
 
 #include <QAccessible>
-#include <QAction>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPainter>
 #include <QtTest>
 
 using NVO::ToolBarButton;
-
-/** Counts how often it is asked for its size. */
-struct Asked : public EventCounter<ToolBarButton>
-{
-    QSize sizeHint() const override { return ++asked, ToolBarButton::sizeHint(); }
-    mutable int asked = 0;
-};
 
 class TestToolBarButton : public TestCase
 {
@@ -46,28 +37,32 @@ private:
         const bool arrow = button.arrowType() != Qt::NoArrow;
         const int bw = arrow ? 48 : 42;
         const int bx = (button.width() - bw) >> 1;
-        const auto fade = [](int top, int bottom, const QColor &first, const QColor &last) {
-            QLinearGradient gradient(0, top, 0, bottom);
-            gradient.setStops({{0, first}, {1, last}});
-            return QBrush(gradient);
+        const int c = (button.width() - 16) / 2;
+        const auto side = [&button](int x, int width) {
+            return button.isRightToLeft() ? button.width() - x - width : x;
         };
-        const auto box = [&painter](QPen pen, const QBrush &brush, const QRectF &rect, int radius) {
-            painter.setPen(pen), painter.setBrush(brush), painter.drawRoundedRect(rect, radius, radius);
+        const auto box = [&painter](const QPen &pen, QColor first, QColor last, const QRect &rect,
+                                    int radius) {
+            QLinearGradient gradient(0, rect.y(), 0, rect.y() + rect.height());
+            gradient.setStops({{0, first}, {1, last}});
+            painter.setPen(pen);
+            painter.setBrush(gradient);
+            painter.drawRoundedRect(rect, radius, radius);
         };
         const QColor dark(0, 0, 0, 192);
+        const bool pressed = button.isDown() || button.isChecked();
+        painter.setLayoutDirection(button.layoutDirection());
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setOpacity(button.isEnabled() ? 1 : 0.4);
-        const bool pressed = button.isDown() || button.isChecked();
         if (!pressed)
-            box(Qt::NoPen, fade(7, 31, dark, Qt::transparent), QRectF(bx, 7, bw, 24), 5);
-        box(QColor("#405060"), pressed ? QBrush("#908070") : fade(5, 29, Qt::white, "#c0d0e0"),
-            QRectF(bx, 5, bw, 24), 5);
-        const int c = (button.width() - 16) / 2;
+            box(Qt::NoPen, dark, Qt::transparent, {bx, 7, bw, 24}, 5);
+        box(QColor("#405060"), pressed ? "#908070" : "white", pressed ? "#908070" : "#c0d0e0",
+            {bx, 5, bw, 24}, 5);
         painter.setPen("#102030");
+        const QPoint tip(side(c + 15, 9) + 4, 19);
         if (arrow)
-            painter.drawLine(c + 15, 15, c + 19, 19), painter.drawLine(c + 19, 19, c + 23, 15);
-        if (!button.icon().isNull())
-            painter.drawPixmap(arrow ? c - 6 : c, 9, 16, 16, button.icon().pixmap(16));
+            painter.drawLine(tip - QPoint(4, 4), tip), painter.drawLine(tip, tip + QPoint(4, -4));
+        painter.drawPixmap(side(arrow ? c - 6 : c, 16), 9, 16, 16, button.icon().pixmap(16));
         if (!button.badge().isEmpty()) {
             QFont font;
             font.setFamilies({"Segoe UI Semibold", "Frutiger", "Frutiger Linotype", "Dejavu Sans",
@@ -78,9 +73,9 @@ private:
             const int tw = metrics.horizontalAdvance(button.badge());
             const int w = qMax(tw + 4, 16);
             const int h = qMax(metrics.height() + 4, 16);
-            const int x = bw + 5 + bx - w;
-            box(Qt::NoPen, fade(3, h + 3, dark, Qt::transparent), QRectF(x, 3, w, h), 8);
-            box(QColor(Qt::blue), Qt::white, QRectF(x, 1, w, h), 8);
+            const int x = side(bw + 5 + bx - w, w);
+            box(Qt::NoPen, dark, Qt::transparent, {x, 3, w, h}, 8);
+            box(QColor(Qt::blue), Qt::white, Qt::white, {x, 1, w, h}, 8);
             painter.setPen("#ff8000");
             painter.setFont(font);
             painter.drawText(x + ((w - tw) >> 1), (metrics.ascent() + h) / 2 + 1, button.badge());
@@ -100,68 +95,63 @@ private Q_SLOTS:
     void picture()
     {
         const FontDeltaGuard guard;
+        QPixmap red(64, 64);
+        red.fill(Qt::red);
         for (int look = 0; look < 32 * 9; ++look) {
             const QString text = QStringList{"", "Post", "Offene<br>Posten & mehr\n"}.at(look / 32 % 3);
-            const bool hasArrow = look & 8;
-            NVO::Css::instance().setFontDelta(look % 3);
             ToolBarButton button;
+            NVO::Css::instance().setFontDelta(look % 3);
             button.setText(text);
             button.setBadge(QStringList{"", "0", "12345678"}.at(look / 96));
             button.setEnabled(look & 1);
             button.setCheckable(true);
             button.setChecked(look & 2);
             button.setDown(look & 4);
-            button.setArrowType(hasArrow ? Qt::DownArrow : Qt::NoArrow);
-            QPixmap red(64, 64);
-            red.fill(Qt::red);
-            if (look & 16)
-                button.setIcon(red);
+            button.setArrowType(look & 8 ? Qt::DownArrow : Qt::NoArrow);
+            button.setIcon(look & 16 ? QIcon(red) : QIcon());
+            button.setLayoutDirection(look % 5 ? Qt::LeftToRight : Qt::RightToLeft);
             QCOMPARE(button.font().pixelSize(), 12 + look % 3);
             const QFontMetrics metrics(button.font());
-            const bool single = text.size() < 5;
-            const int widest = metrics.horizontalAdvance(single ? text : "Posten & mehr");
-            const int lines = single ? 1 : 3;
+            const int lines = text.size() < 5 ? 1 : 3;
+            const int widest = metrics.horizontalAdvance(lines == 1 ? text : "Posten & mehr");
             QCOMPARE(button.sizeHint(),
-                     QSize(qMax(hasArrow ? 48 : 42, widest) + 10, 39 + lines * metrics.height()));
+                     QSize(qMax(look & 8 ? 48 : 42, widest) + 10, 39 + lines * metrics.height()));
             QCOMPARE(button.minimumSizeHint(), button.sizeHint());
-
-            button.resize(look % 7 ? 60 + look % 90 : 30, 90);
-            QImage ours(button.size() * button.devicePixelRatioF(), QImage::Format_ARGB32_Premultiplied);
+            button.resize(look % 7 ? 60 + look % 90 : 31, 90);
+            QPixmap ours(button.size() * button.devicePixelRatioF());
             ours.setDevicePixelRatio(button.devicePixelRatioF());
             ours.fill(Qt::white);
-            QImage expected = ours;
+            QPixmap expected = ours;
             button.render(&ours, {}, {}, {});
             QPainter painter(&expected);
             draw(painter, button);
             painter.end();
-            QVERIFY2(ours == expected, qPrintable(QString("look %1").arg(look)));
+            QVERIFY2(ours.toImage() == expected.toImage(), qPrintable(QString("look %1").arg(look)));
         }
     }
 
     void mouse()
     {
         ToolBarButton button;
-        button.setText("Posten");
         button.resize(101, 60); // the box is at 29 to 70 and 5 to 28
         button.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&button));
         const QSignalSpy clicks(&button, &ToolBarButton::clicked);
         Mouse mouse(&button);
         const QPoint origin = button.mapToGlobal({0, 0});
-        for (int x = 27; x < 73; ++x)
-            for (int y : {0, 4, 5, 28, 29, 50}) {
+        for (int x : {28, 29, 70, 71})
+            for (int y : {4, 5, 28, 29, 50}) {
                 const bool inside = x >= 29 && x <= 70 && y >= 5 && y <= 28;
-                const int before = clicks.count();
                 mouse.press(origin + QPoint(x, y));
                 QCOMPARE(button.isDown(), inside);
                 mouse.release();
-                QCOMPARE(clicks.count() - before, int(inside));
             }
+        QCOMPARE(clicks.count(), 4);
         const QPoint inside = origin + QPoint(50, 10);
         const QPoint text = origin + QPoint(50, 45);
-        mouse.drag(inside, QPoint(3, 3));
-        const int before = clicks.count();
-        mouse.drag(inside, text - inside);
+        mouse.press(inside);
+        mouse.move(text);
+        QVERIFY(!button.isDown());
+        mouse.release();
         mouse.drag(text, inside - text);                             // the press before is over
         for (const QPoint &pos : {QPoint(50, 45), QPoint(50, 10)}) { // and let go outside without a move
             QTest::mouseDClick(&button, Qt::LeftButton, {}, pos);
@@ -172,34 +162,29 @@ private Q_SLOTS:
         }
         button.setEnabled(false);
         mouse.drag(inside, {});
-        QCOMPARE(clicks.count(), before);
+        QCOMPARE(clicks.count(), 4);
     }
 
     void badgeConcernsItsButtonAlone()
     {
-        QWidget bar;
-        auto *row = new QHBoxLayout(&bar);
-        Asked buttons[3];
-        for (Asked &button : buttons)
-            row->addWidget(&button);
+        EventCounter<QWidget> bar;
+        QHBoxLayout row(&bar);
+        EventCounter<ToolBarButton> button;
+        EventCounter<ToolBarButton> neighbour;
+        row.addWidget(&button);
+        row.addWidget(&neighbour);
         bar.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&bar));
-        const auto take = [&buttons] { // paints of the second, and all else
+        QTest::qWait(20);
+        for (int count : {0, 0, -1, 7}) {
+            const QString badge = count < 0 ? QString() : QString::number(count);
+            const int paints = button.counts[QEvent::Paint] + int(badge != button.badge());
+            const int others = neighbour.counts[QEvent::Paint] + bar.counts[QEvent::LayoutRequest];
+            button.setCounter(count);
             QTest::qWait(20);
-            const int paints = std::exchange(buttons[1].counts[QEvent::Paint], 0);
-            int rest = 0;
-            for (Asked &button : buttons)
-                rest += std::exchange(button.counts[QEvent::Paint], 0) + std::exchange(button.asked, 0);
-            return qMakePair(paints, rest);
-        };
-        take();
-        buttons[1].setCounter(0);
-        QCOMPARE(take(), qMakePair(1, 0));
-        buttons[1].setBadge("0");
-        QCOMPARE(take(), qMakePair(0, 0));
-        buttons[1].setCounter(-1);
-        QCOMPARE(buttons[1].badge(), QString());
-        QCOMPARE(take(), qMakePair(1, 0));
+            QCOMPARE(button.badge(), badge);
+            QCOMPARE(button.counts[QEvent::Paint], paints);
+            QCOMPARE(neighbour.counts[QEvent::Paint] + bar.counts[QEvent::LayoutRequest], others);
+        }
     }
 
     void keyboard()
@@ -207,9 +192,7 @@ private Q_SLOTS:
         QWidget bar;
         ToolBarButton button(&bar);
         QPointer<ToolBarButton> doomed = new ToolBarButton(&bar);
-        doomed->move(100, 0);
         bar.show();
-        bar.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&bar));
         const auto hasRing = [&button] { // green is nothing else
             const QImage picture = button.grab().toImage();
@@ -220,9 +203,6 @@ private Q_SLOTS:
         QTest::keyClick(&button, Qt::Key_Backtab);
         QTest::keyClick(doomed, Qt::Key_Tab);
         QVERIFY(button.hasFocus() && hasRing());
-        const QSignalSpy clicks(&button, &ToolBarButton::clicked);
-        QTest::keyClick(&button, Qt::Key_Space);
-        QCOMPARE(clicks.count(), 1);
         connect(doomed, &ToolBarButton::clicked, &bar, [&doomed] { delete doomed; });
         QTest::mouseClick(doomed, Qt::LeftButton, {}, {doomed->width() / 2, 10});
         QVERIFY(!doomed);
@@ -232,14 +212,13 @@ private Q_SLOTS:
     {
         ToolBarButton button;
         auto *accessible = QAccessible::queryAccessibleInterface(&button);
-        button.setText("&Offene<br>Posten");
+        button.setText("&Ein- & Ausgang<br>heute");
         button.setBadge("12");
         button.setToolTip("Alle");
         button.setCheckable(true);
-        button.setChecked(true);
-        QCOMPARE(accessible->text(QAccessible::Name), QString("Offene Posten"));
+        QCOMPARE(accessible->text(QAccessible::Name), QString("Ein- & Ausgang heute"));
         QCOMPARE(accessible->text(QAccessible::Description), QString("12, Alle"));
-        QVERIFY(accessible->state().checked && accessible->role() == QAccessible::CheckBox);
+        QCOMPARE(accessible->role(), QAccessible::CheckBox);
         QMenu menu;
         button.setMenu(&menu);
         QVERIFY(accessible->state().hasPopup && accessible->role() == QAccessible::ButtonDropDown);
