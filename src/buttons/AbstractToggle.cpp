@@ -48,13 +48,13 @@ void AbstractToggle::changeEvent(QEvent *event)
 {
     const QPointer<AbstractToggle> alive(this);
     QCheckBox::changeEvent(event); // releases a button that is held down and gets disabled
-    const bool concerns =
+    const bool concerns =          // a disabled toggle does not hover, the raised half changes sides
         event->type() == QEvent::EnabledChange || event->type() == QEvent::LayoutDirectionChange;
     if (alive && concerns)
         updateState();
 }
 
-/** Like that of QCheckBox, which goes on after toggled() even if a slot has deleted it. */
+/** Emits toggled() last: QCheckBox goes on after it even if a slot has deleted the toggle. */
 void AbstractToggle::nextCheckState()
 {
     if (isTristate() || group()) {
@@ -65,13 +65,12 @@ void AbstractToggle::nextCheckState()
     const bool before = isChecked();
     {
         const QSignalBlocker blocker(this);
-        if (isCheckable())
-            setChecked(!before);
+        QAbstractButton::nextCheckState(); // NOLINT(bugprone-parent-virtual-call)
     }
     if (isChecked() != before)
-        Q_EMIT toggled(isChecked());
+        Q_EMIT toggled(!before);
     if (alive)
-        QCheckBox::checkStateSet();
+        checkStateSet();
 }
 
 void AbstractToggle::updateState()

@@ -75,13 +75,11 @@ bool PixmapToggle::hitButton(const QPoint &) const
     return true;
 }
 
-/** Follows also where the signals of the toggle are blocked. */
 void PixmapToggle::checkStateSet()
 {
-    const QPointer<PixmapToggle> alive(this);
-    checkBoxToggled();
-    if (alive)
-        AbstractToggle::checkStateSet();
+    if (signalsBlocked()) // toggled() does not come
+        checkBoxToggled();
+    AbstractToggle::checkStateSet();
 }
 
 void PixmapToggle::paintEvent(QPaintEvent *)
@@ -100,9 +98,9 @@ void PixmapToggle::changeEvent(QEvent *event)
 
 void PixmapToggle::applyState(const QString &state)
 {
-    ToggleSupport::setProperties(
-        this,
-        {{m_leftFrame, "state", state}, {m_rightFrame, "state", state}, {m_middleFrame, "state", state}});
+    ToggleSupport::setPartProperty(m_leftFrame, "state", state);
+    ToggleSupport::setPartProperty(m_rightFrame, "state", state);
+    ToggleSupport::setPartProperty(m_middleFrame, "state", state);
 }
 
 void PixmapToggle::initStyleSheet()
@@ -113,8 +111,9 @@ void PixmapToggle::initStyleSheet()
 void PixmapToggle::checkBoxToggled()
 {
     const bool shown = ToggleSupport::isShownOn(*this);
+    ToggleSupport::setPartProperty(m_leftFrame, "checked", shown);
+    ToggleSupport::setPartProperty(m_rightFrame, "checked", !shown);
     updatePixmaps();
-    ToggleSupport::setProperties(this, {{m_leftFrame, "checked", shown}, {m_rightFrame, "checked", !shown}});
 }
 
 /** A disabled toggle has the symbol of its value only. */

@@ -134,13 +134,11 @@ bool RadioToggle::hitButton(const QPoint &) const
     return true;
 }
 
-/** Follows also where the signals of the toggle are blocked. */
 void RadioToggle::checkStateSet()
 {
-    const QPointer<RadioToggle> alive(this);
-    checkBoxToggled();
-    if (alive)
-        AbstractToggle::checkStateSet();
+    if (signalsBlocked()) // toggled() does not come
+        checkBoxToggled();
+    AbstractToggle::checkStateSet();
 }
 
 void RadioToggle::paintEvent(QPaintEvent *)
@@ -157,12 +155,10 @@ void RadioToggle::resizeEvent(QResizeEvent *event)
 
 void RadioToggle::applyState(const QString &state)
 {
-    const QPointer<RadioToggle> alive(this);
-    ToggleSupport::setProperties(
-        this,
-        {{m_leftFrame, "state", state}, {m_rightFrame, "state", state}, {m_middleFrame, "state", state}});
-    if (alive)
-        checkBoxToggled();
+    ToggleSupport::setPartProperty(m_leftFrame, "state", state);
+    ToggleSupport::setPartProperty(m_rightFrame, "state", state);
+    ToggleSupport::setPartProperty(m_middleFrame, "state", state);
+    checkBoxToggled();
 }
 
 void RadioToggle::initStyleSheet()
@@ -183,7 +179,8 @@ void RadioToggle::checkBoxToggled()
     setSunken(m_rightFrame, !shown);
     raiseHalf(rect());
     // For a radio button "checked" is its value; it is polished again with its frame.
-    ToggleSupport::setProperties(this, {{m_leftFrame, "checked", shown}, {m_rightFrame, "checked", !shown}});
+    ToggleSupport::setPartProperty(m_leftFrame, "checked", shown);
+    ToggleSupport::setPartProperty(m_rightFrame, "checked", !shown);
 }
 
 void RadioToggle::installShadows()

@@ -11,17 +11,13 @@ bool isShownOn(const QCheckBox &toggle)
     return toggle.isChecked() != toggle.isDown();
 }
 
-void setProperties(const QWidget *toggle, const QVector<PartProperty> &properties)
+void setPartProperty(QWidget *part, const char *name, const QVariant &value)
 {
-    QList<QWidget *> changed;
-    for (const PartProperty &property : properties) {
-        if (!property.part || property.part->property(property.name) == property.value)
-            continue;
-        property.part->setProperty(property.name, property.value);
-        changed.append(property.part);
-    }
-    if (StyleSupport::isStyleSheetStyled(toggle))
-        StyleSupport::repolish(changed);
+    if (!part || part->property(name) == value)
+        return;
+    part->setProperty(name, value);
+    if (StyleSupport::isStyleSheetStyled(part))
+        StyleSupport::repolish(part);
 }
 
 } // namespace NVO::ToggleSupport

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QVariant>
-#include <QVector>
 
 class QCheckBox;
 class QWidget;
@@ -12,15 +11,8 @@ namespace NVO::ToggleSupport {
 /** Whether \a toggle shows its on side as chosen: a toggle held down shows what it becomes on release. */
 bool isShownOn(const QCheckBox &toggle);
 
-/** A dynamic property of a part of a toggle. The part may be null. */
-struct PartProperty
-{
-    QWidget *part;
-    const char *name;
-    QVariant value;
-};
-
-/** Sets \a properties and lets the sheet of \a toggle look at the parts for which that was a change. */
-void setProperties(const QWidget *toggle, const QVector<PartProperty> &properties);
+/** Sets a dynamic property of a part of a toggle, which may be null, and lets its sheet see a change of it.
+ */
+void setPartProperty(QWidget *part, const char *name, const QVariant &value);
 
 } // namespace NVO::ToggleSupport
