@@ -1,5 +1,7 @@
 #include <nvo/AccordionIndicator.h>
 
+#include "theme/StyleSupport.h"
+
 #include <nvo/Pixmap.h>
 
 #include <QPainter>
@@ -78,7 +80,9 @@ void AccordionIndicator::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.setTransform(turn);
-    painter.drawPixmap(QRect(0, 0, side, side), m_pixmap);
+    painter.drawPixmap(QRect(0, 0, side, side),
+                       isEnabled() ? m_pixmap
+                                   : StyleSupport::iconPixmap(m_pixmap, {side, side}, this, QIcon::Disabled));
 }
 
 } // namespace NVO

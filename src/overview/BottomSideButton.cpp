@@ -1,5 +1,6 @@
 #include <nvo/BottomSideButton.h>
 
+#include "overview/OverviewAccessible.h"
 #include "overview/PathLabel.h"
 #include "overview/ResultEnd.h"
 #include "overview/TileLabel.h"
@@ -96,7 +97,7 @@ void BottomSideButton::addLayouts()
 
 void BottomSideButton::setTitle(const QString &title)
 {
-    m_titleLabel->setText(title);
+    OverviewAccessible::setText(this, m_titleLabel, title, QAccessible::NameChanged);
 }
 
 QString BottomSideButton::title() const
@@ -109,6 +110,7 @@ void BottomSideButton::setPath(const Path &path)
     m_pathLabel->setPath(path);
     m_pathLabel->setVisible(!path.elements.isEmpty());
     m_pathGap->setVisible(!path.elements.isEmpty() && isModern());
+    OverviewAccessible::tell(this, QAccessible::DescriptionChanged);
 }
 
 BottomSideButton::Path BottomSideButton::path() const

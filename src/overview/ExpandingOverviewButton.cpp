@@ -6,9 +6,12 @@
 
 #include <nvo/AccordionPart.h>
 #include <nvo/BottomSideButton.h>
+#include <nvo/Css.h>
 #include <nvo/GraphicsEffect.h>
+#include <nvo/Palette.h>
 #include <nvo/Product.h>
 
+#include <QPainter>
 #include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -18,6 +21,21 @@ namespace NVO {
 namespace {
 
 constexpr int speed = 1;
+constexpr int edgeHeight = 1;
+
+/** The last row, which has the frame at the bottom, comes into sight only at the end of the way. */
+class FoldEdge : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter(this).fillRect(rect(),
+                                Palette::instance().namedColor(QStringLiteral("COLOR_BIG_BUTTON_BORDER")));
+    }
+};
 
 QVBoxLayout *makeColumn(QWidget *widget)
 {
@@ -44,6 +62,7 @@ QString expandText(ExpandingOverviewButton::ButtonStyle style)
 ExpandingOverviewButton::ExpandingOverviewButton(QWidget *parent)
     : QFrame(parent)
     , m_accordionPart(new AccordionPart(this))
+    , m_foldEdge(new FoldEdge(this))
 {
     m_accordionPart->setShadowEnabled(false);
     m_accordionPart->setSharedBorder(false);
@@ -53,6 +72,13 @@ ExpandingOverviewButton::ExpandingOverviewButton(QWidget *parent)
     connect(m_topSideButton, &QAbstractButton::clicked, this, &ExpandingOverviewButton::topSideClicked);
     connect(m_accordionPart, &AccordionPart::animationFinished, this,
             &ExpandingOverviewButton::animationFinished);
+    m_foldEdge->hide();
+    connect(m_accordionPart, &AccordionPart::animationStateChanged, m_foldEdge,
+            [this](AnimatedAccordionState state) {
+                m_foldEdge->setVisible(state == AnimatedAccordionState::Expanding
+                                       || state == AnimatedAccordionState::Hiding);
+                m_foldEdge->raise();
+            });
     initStyleSheet();
     setGraphicsEffect(createDefaultShadowEffectPixels());
 }
@@ -236,9 +262,17 @@ void ExpandingOverviewButton::updateExpandText()
         m_topSideButton->setExpandText(expandText(m_buttonStyle).arg(m_paths.size()));
 }
 
+void ExpandingOverviewButton::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    m_foldEdge->setGeometry(0, height() - edgeHeight, width(), edgeHeight);
+}
+
+/** The same sheet again would let Qt parse those of all sections. */
 void ExpandingOverviewButton::initStyleSheet()
 {
-    StyleSupport::applySheet(this, ElementOverviewButton);
+    if (styleSheet() != Css::instance().css(ElementOverviewButton))
+        StyleSupport::applySheet(this, ElementOverviewButton);
 }
 
 } // namespace NVO

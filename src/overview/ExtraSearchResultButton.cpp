@@ -1,5 +1,6 @@
 #include <nvo/ExtraSearchResultButton.h>
 
+#include "overview/OverviewAccessible.h"
 #include "theme/StyleSupport.h"
 
 #include <nvo/Label.h>
@@ -35,7 +36,7 @@ ExtraSearchResultButton::ExtraSearchResultButton(QWidget *parent)
 
 void ExtraSearchResultButton::setText(const QString &text)
 {
-    m_textLabel->setText(text);
+    OverviewAccessible::setText(this, m_textLabel, text, QAccessible::NameChanged);
 }
 
 QString ExtraSearchResultButton::text() const

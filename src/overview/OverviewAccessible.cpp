@@ -203,14 +203,18 @@ void install()
     QAccessible::installFactory(createInterface);
 }
 
+void tell(QWidget *tile, QAccessible::Event change)
+{
+    QAccessibleEvent event(tile, change);
+    QAccessible::updateAccessibility(&event);
+}
+
 void setText(QWidget *tile, Label *label, const QString &text, QAccessible::Event change)
 {
     const QString before = label->text();
     label->setText(text);
-    if (label->text() == before)
-        return;
-    QAccessibleEvent event(tile, change);
-    QAccessible::updateAccessibility(&event);
+    if (label->text() != before)
+        tell(tile, change);
 }
 
 } // namespace NVO::OverviewAccessible

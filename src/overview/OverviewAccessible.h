@@ -15,6 +15,9 @@ namespace NVO::OverviewAccessible {
  */
 void install();
 
+/** Tells assistive technology of a \a change of \a tile. */
+void tell(QWidget *tile, QAccessible::Event change);
+
 /** Gives \a label, a part of \a tile, \a text and tells assistive technology of \a change if it is one. */
 void setText(QWidget *tile, Label *label, const QString &text, QAccessible::Event change);
 

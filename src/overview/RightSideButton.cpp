@@ -1,6 +1,7 @@
 #include "overview/RightSideButton.h"
 
 #include "overview/OverviewAccessible.h"
+#include "overview/ResultEnd.h"
 #include "overview/RightSideDummyButton.h"
 #include "overview/TileLabel.h"
 #include "overview/TileShape.h"
@@ -9,7 +10,6 @@
 #include <nvo/Pixmap.h>
 
 #include <QEvent>
-#include <QTransform>
 #include <QVBoxLayout>
 
 namespace NVO {
@@ -105,9 +105,8 @@ QSize RightSideButton::minimumSizeHint() const
 void RightSideButton::applyDirection()
 {
     TileShape::apply(this, m_borders, m_corners);
-    const QPixmap arrow = Pixmap(QStringLiteral(":/arrow_right_dark_6x12"));
-    const bool mirror = layoutDirection() == Qt::RightToLeft && !arrow.isNull();
-    m_arrowLabel->setPixmap(mirror ? arrow.transformed(QTransform::fromScale(-1, 1)) : arrow);
+    const Pixmap arrow(QStringLiteral(":/arrow_right_dark_6x12"));
+    m_arrowLabel->setPixmap(ResultEnd::directed(arrow, layoutDirection()));
 }
 
 void RightSideButton::changeEvent(QEvent *event)

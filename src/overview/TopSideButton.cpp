@@ -1,5 +1,6 @@
 #include "overview/TopSideButton.h"
 
+#include "overview/OverviewAccessible.h"
 #include "overview/PathLabel.h"
 #include "overview/TileLabel.h"
 #include "theme/StyleSupport.h"
@@ -7,7 +8,6 @@
 #include <nvo/AccordionIndicator.h>
 #include <nvo/Product.h>
 
-#include <QAccessible>
 #include <QEvent>
 #include <QVBoxLayout>
 
@@ -109,7 +109,7 @@ void TopSideButton::addLayouts()
 
 void TopSideButton::setTitle(const QString &title)
 {
-    m_titleLabel->setText(title);
+    OverviewAccessible::setText(this, m_titleLabel, title, QAccessible::NameChanged);
 }
 
 QString TopSideButton::title() const
@@ -119,7 +119,7 @@ QString TopSideButton::title() const
 
 void TopSideButton::setText(const QString &text)
 {
-    m_textLabel->setText(text);
+    OverviewAccessible::setText(this, m_textLabel, text, QAccessible::DescriptionChanged);
 }
 
 QString TopSideButton::text() const
@@ -154,6 +154,7 @@ void TopSideButton::setPath(const Path &path)
     m_pathLabel->setPath(path);
     m_pathLabel->setVisible(!path.elements.isEmpty());
     showExpandable(false);
+    OverviewAccessible::tell(this, QAccessible::DescriptionChanged);
 }
 
 TopSideButton::Path TopSideButton::path() const
@@ -163,7 +164,7 @@ TopSideButton::Path TopSideButton::path() const
 
 void TopSideButton::setExpandText(const QString &text)
 {
-    m_expandLabel->setText(text);
+    OverviewAccessible::setText(this, m_expandLabel, text, QAccessible::DescriptionChanged);
     m_pathLabel->hide();
     showExpandable(true);
 }

@@ -238,7 +238,8 @@ private Q_SLOTS:
             toggle.setRadioToggleStyle(RadioToggle::VaSt);
             QCOMPARE(toggle.property("style").toString(), QString("VaSt"));
             QTest::keyPress(&toggle, Qt::Key_Space);
-            QCOMPARE(toggle.grab().toImage().pixelColor(toggle.rect().center() / 2).blue(), 250);
+            const QPoint onTheLeft = toggle.rect().center() / 2 * toggle.devicePixelRatio();
+            QCOMPARE(toggle.grab().toImage().pixelColor(onTheLeft).blue(), 250);
             auto *foreign = new QGraphicsOpacityEffect;
             const auto replaceShadow = [&] {
                 QWidget *left = frame(toggle, "leftFrame");

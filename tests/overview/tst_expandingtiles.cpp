@@ -272,7 +272,29 @@ private Q_SLOTS:
         QCOMPARE(rows[1]->borderStyle(), Border::Left | Border::Right | Border::Bottom);
         QCOMPARE(rows[0]->property("BottomLeftRound"), QVariant(false));
         QCOMPARE(rows[1]->property("BottomLeftRound"), QVariant(true));
+        const auto gaps = [](const QWidget *section) {
+            QList<int> widths;
+            for (int i = 0; i < section->layout()->count(); ++i) {
+                if (const QSpacerItem *spacer = section->layout()->itemAt(i)->spacerItem())
+                    widths.append(spacer->sizeHint().width());
+            }
+            return widths;
+        };
+        const auto partAt = [top](int index) { return top->layout()->itemAt(index)->widget(); };
+        const int arrow = top->layout()->count() - 1;
+        QCOMPARE(partAt(1)->minimumWidth(), variant == 1 ? 10 : 20);
+        QCOMPARE(gaps(top), (QList<int>{25, 0}));
+        QCOMPARE(gaps(rows[0]), (QList<int>{0, 0, 20, 0}));
+        QVERIFY(!partAt(arrow)->isVisibleTo(top) && !partAt(1)->isVisibleTo(top));
+        rows[0]->setIconLeft(QPixmap(8, 8));
+        rows[0]->setIconState(QPixmap(8, 8));
+        QCOMPARE(gaps(rows[0]), (QList<int>{0, 10, 20, 20}));
         page.tile->setPath({});
+        page.tile->setIcon(QPixmap(8, 8));
+        page.tile->setIconState(QPixmap(8, 8));
+        QCOMPARE(gaps(top), (QList<int>{20, 20}));
+        QVERIFY(partAt(arrow)->isVisibleTo(top) && partAt(1)->isVisibleTo(top));
+        page.tile->setIcon({});
         page.tile->setTextVisible(false);
         QTRY_VERIFY((top->height() == 80) == (variant == 1 && style == 0));
         QCOMPARE(top->sizeHint().height() == 80, variant == 1 && style == 0);
@@ -338,6 +360,40 @@ private Q_SLOTS:
         }
     }
 
+    /** A tile on its way is closed at the bottom, and no part of it keeps a click for itself. */
+    void wholeTile()
+    {
+        const TestResources palette{{{"Palette", "[Named]\nCOLOR_BIG_BUTTON_BORDER=#ff00ff\n"}}};
+        NVO::Css::instance().reset();
+        Page page;
+        page.tile->setGraphicsEffect(nullptr);
+        page.tile->setPaths({{"a <a href='x'>link</a>", path(1)}, {"b", path(2)}});
+        const auto isClosed = [&page] {
+            QCoreApplication::processEvents();
+            const QImage image = page.tile->grab().toImage();
+            return image.pixelColor(image.width() / 2, image.height() - 1) == QColor(Qt::magenta);
+        };
+        QVERIFY(!isClosed());
+        page.top()->click();
+        page.advance(0.5);
+        QVERIFY(isClosed());
+        page.finish();
+        QVERIFY(!isClosed());
+
+        const auto rows = page.bottoms();
+        QWindow *window = page.window.windowHandle();
+        for (int y = 2, count = 0; y < rows[0]->height(); y += 4) {
+            for (int x = 2; x < rows[0]->width(); x += 8) {
+                const QPoint place = rows[0]->mapTo(&page.window, QPoint(x, y));
+                QTest::mousePress(window, Qt::LeftButton, {}, place);
+                QTest::mouseMove(window, place + QPoint(1, 0));
+                QTest::mouseRelease(window, Qt::LeftButton, {}, place);
+                QCOMPARE(page.clicked.size(), ++count);
+                QVERIFY(!rows[0]->isDown());
+            }
+        }
+    }
+
     void keyboard()
     {
         Page page;
@@ -380,8 +436,12 @@ private Q_SLOTS:
     void accessibility()
     {
         static int changes = 0;
+        static int texts = 0;
         QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
         QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
+            texts += qobject_cast<OverviewButtonBase *>(event->object())
+                     && (event->type() == QAccessible::NameChanged
+                         || event->type() == QAccessible::DescriptionChanged);
             changes += event->type() == QAccessible::StateChanged
                        && qobject_cast<TopSideButton *>(event->object())
                        && static_cast<QAccessibleStateChangeEvent *>(event)->changedStates().expanded;
@@ -413,6 +473,18 @@ private Q_SLOTS:
         QCOMPARE(tile->child(2)->text(QAccessible::Name), QString("row 1"));
         QCOMPARE(tile->child(2)->text(QAccessible::Description), QString("A > B > C"));
         QCOMPARE(tile->indexOfChild(tile->child(2)), 2);
+        NVO::ExtraSearchResultButton extra;
+        texts = 0;
+        for (int i = 0; i < 2; ++i) { // the second time nothing is new
+            page.tile->setTitle("other");
+            page.tile->setText("other");
+            page.bottoms()[0]->setTitle("other");
+            extra.setText("other");
+        }
+        QCOMPARE(texts, 4);
+        page.bottoms()[0]->setPath(path(5, "D"));
+        page.tile->setPath(path(5, "D"));
+        QCOMPARE(texts, 6);
         QAccessible::installUpdateHandler(nullptr);
         QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(false);
     }
