@@ -57,7 +57,10 @@ public:
                     QFlags<DialogFlag> flags = NoFlag);
     ~Dialog() override;
 
-    /** Puts \a widget between title bar and buttons and deletes the content before; null for none. */
+    /**
+     * Puts \a widget between title bar and buttons and deletes the content before; null for none. One that
+     * contains the dialog is ignored.
+     */
     void setContent(QWidget *widget, Qt::Alignment alignment = Qt::Alignment());
     /** The content, owned by the dialog; null if there is none or its owner has deleted it. */
     QWidget *content();

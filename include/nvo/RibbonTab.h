@@ -37,7 +37,10 @@ public:
     /** Adds a picture block at the right end. The page owns it. */
     RibbonGroupObject *addGroupObject(Action *p_action);
 
-    /** Takes a widget as the extra widget; false, with nothing changed, if there is one already. */
+    /**
+     * Takes a widget as the extra widget; false, with nothing changed, if there is one already or it
+     * contains the page.
+     */
     bool addExtraWidget(QWidget *p_widget);
 
     /** The extra widget, taken out of the page with \a p_remove; null if there is none. */

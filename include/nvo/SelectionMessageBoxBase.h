@@ -4,6 +4,7 @@
 #include <nvo/InfoBox.h>
 
 #include <QPixmap>
+#include <QPointer>
 
 namespace NVO {
 
@@ -66,7 +67,10 @@ Q_SIGNALS:
     void linkActivated(QString p_link);
 
 protected:
-    /** Where the buttons of the derived class go; its layout is a QVBoxLayout without margins. */
+    /**
+     * Where the buttons of the derived class go; its layout is a QVBoxLayout without margins. Null once
+     * another content has been set.
+     */
     QWidget *buttonsContainer() const { return m_buttonsContainerWidget; }
 
     bool event(QEvent *event) override;
@@ -76,13 +80,13 @@ private:
     void createCheckBoxBar();
     void updateHairLineVisible();
 
-    InfoBox *m_infoBox = nullptr;
-    QFrame *m_infoBoxFrame = nullptr;
+    QPointer<InfoBox> m_infoBox; // dies with a content that is replaced, as do the frame and the container
+    QPointer<QFrame> m_infoBoxFrame;
     QFrame *m_checkBoxBar = nullptr;
     CheckBox *m_checkBox = nullptr;
     HairLine *m_hairLine = nullptr;
     QWidget *m_hairLineSpacer = nullptr;
-    QWidget *m_buttonsContainerWidget = nullptr;
+    QPointer<QWidget> m_buttonsContainerWidget;
 };
 
 } // namespace NVO

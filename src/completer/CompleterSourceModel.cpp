@@ -130,15 +130,15 @@ QVariant CompleterSourceModel::headerData(int section, Qt::Orientation orientati
 
 bool CompleterSourceModel::removeRows(int row, int count, const QModelIndex &parent)
 {
-    const int first = std::max(row, 0);
-    const int end = std::min(rowCount(parent), count > 0 ? first + count : 0);
-    if (row < 0 || first >= end)
+    const int rows = rowCount(parent);
+    if (row < 0 || row >= rows || count <= 0)
         return true;
+    const int end = row + std::min(count, rows - row);
     CompleterTreeItem *const item = getItem(parent);
-    beginRemoveRows(parent, first, end - 1);
-    const QList<int> gone = dataRows(*item, first, end - first);
+    beginRemoveRows(parent, row, end - 1);
+    const QList<int> gone = dataRows(*item, row, end - row);
     std::for_each(gone.rbegin(), gone.rend(), [this](int dataRow) { m_completerData.removeRow(dataRow); });
-    item->removeChildren(first, end - first);
+    item->removeChildren(row, end - row);
     ++m_tree;
     endRemoveRows();
     return true;

@@ -1,6 +1,7 @@
 #include <nvo/InfoBox.h>
 
 #include "containers/TextHolder.h"
+#include "theme/Ancestry.h"
 #include "theme/StyleSupport.h"
 
 #include <nvo/Css.h>
@@ -83,10 +84,8 @@ void InfoBox::setIconAlignment(Qt::Alignment alignment)
 
 void InfoBox::setAdditionalWidget(QWidget *widget)
 {
-    for (const QWidget *around = this; around; around = around->parentWidget()) {
-        if (around == widget)
-            return; // also where there is a window in between
-    }
+    if (widget && Ancestry::contains(widget, this))
+        return;
     delete m_textColumn->takeAt(1);
     if (widget)
         m_textColumn->addWidget(widget);

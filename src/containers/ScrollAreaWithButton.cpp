@@ -10,6 +10,7 @@ namespace NVO {
 namespace {
 
 constexpr int step = 35;
+constexpr int largestMargin = QWIDGETSIZE_MAX / 4; // of a button, either way
 
 /** The strip along the edge of \a contents in which a button of \a height lies. */
 QRect strip(const QRect &contents, Direction direction, int height)
@@ -63,6 +64,8 @@ ScrollButton *ScrollAreaWithButton::bottomScrollButton() const
 
 void ScrollAreaWithButton::setButtonMargins(int left, int right)
 {
+    left = qBound(-largestMargin, left, largestMargin);
+    right = qBound(-largestMargin, right, largestMargin);
     if (m_leftMargin == left && m_rightMargin == right)
         return;
     m_leftMargin = left;

@@ -1,6 +1,7 @@
 #include "dialogs/ButtonBar.h"
 
 #include "dialogs/DialogSupport.h"
+#include "theme/Ancestry.h"
 #include "theme/StyleSupport.h"
 
 #include <nvo/Icon.h>
@@ -14,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace NVO {
 
@@ -197,15 +199,15 @@ void ButtonBar::setHelpButtonText(const QString &text)
 
 void ButtonBar::setExtraWidget(QWidget *widget)
 {
-    if (widget && widget == m_extraWidget)
+    if (widget && (widget == m_extraWidget || Ancestry::contains(widget, m_extraHost)))
         return;
-    delete m_extraWidget;
-    m_extraWidget = widget;
-    if (widget) {
+    const QPointer<QWidget> before = std::exchange(m_extraWidget, QPointer<QWidget>(widget));
+    if (widget) { // first, for it may have been a part of the one before
         m_extraHost->layout()->addWidget(widget);
         if (!widget->testAttribute(Qt::WA_WState_ExplicitShowHide))
             widget->show(); // as it would with the bar; whether the bar shows depends on it
     }
+    delete before;
     m_extraSpacer->changeSize(0, 0, widget ? QSizePolicy::Expanding : QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_extraHost->layout()->invalidate();
     updateTabOrder();

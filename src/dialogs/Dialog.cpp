@@ -3,6 +3,7 @@
 #include "dialogs/ButtonBar.h"
 #include "dialogs/DialogSupport.h"
 #include "dialogs/WidgetResizeHandler.h"
+#include "theme/Ancestry.h"
 #include "theme/StyleSupport.h"
 
 #include <nvo/Button.h>
@@ -17,6 +18,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <QWindow>
+
+#include <utility>
 
 namespace NVO {
 
@@ -157,12 +160,12 @@ void Dialog::createFooter()
 
 void Dialog::setContent(QWidget *widget, Qt::Alignment alignment)
 {
-    if (widget == m_contentWidget)
+    if (widget == m_contentWidget || (widget && Ancestry::contains(widget, m_frame)))
         return;
-    delete m_contentWidget;
-    m_contentWidget = widget;
-    if (widget)
+    const QPointer<QWidget> before = std::exchange(m_contentWidget, QPointer<QWidget>(widget));
+    if (widget) // first, for it may have been a part of the one before
         m_frameLayout->insertWidget(contentPosition, widget, contentStretch, alignment);
+    delete before;
 }
 
 QWidget *Dialog::content()

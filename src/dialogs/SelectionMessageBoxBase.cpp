@@ -88,6 +88,8 @@ void SelectionMessageBoxBase::createCheckBoxBar()
 void SelectionMessageBoxBase::setInfoBox(InfoBox::InfoBoxStyle style, const QString &htmlText,
                                          const QPixmap &pixmap, Qt::Alignment iconAlignment)
 {
+    if (!m_infoBox)
+        return;
     m_infoBox->setInfoBoxStyle(style);
     m_infoBox->setHtmlText(htmlText);
     m_infoBox->setPixmap(pixmap);
@@ -97,7 +99,7 @@ void SelectionMessageBoxBase::setInfoBox(InfoBox::InfoBoxStyle style, const QStr
 void SelectionMessageBoxBase::setInfoBoxVisible(bool visible)
 {
     // What counts is what was asked for, also before the box itself shows.
-    if (visible == m_infoBoxFrame->isHidden())
+    if (m_infoBoxFrame && visible == m_infoBoxFrame->isHidden())
         m_infoBoxFrame->setVisible(visible);
 }
 

@@ -2,6 +2,7 @@
 
 #include "flyout/FlyoutInnerWidget.h"
 #include "flyout/FlyoutPlacement.h"
+#include "theme/Ancestry.h"
 #include "theme/StyleSupport.h"
 
 #include <nvo/Button.h>
@@ -48,14 +49,6 @@ FlyoutPlacement::Box boxOf(const QWidget &widget)
             box.smallest.setHeight(layout->minimumHeightForWidth(box.preferred.width()));
     }
     return box;
-}
-
-/** Whether \a object is \a descendant or one of its ancestors, windows included. */
-bool contains(const QObject *object, const QObject *descendant)
-{
-    while (descendant && descendant != object)
-        descendant = descendant->parent();
-    return descendant != nullptr;
 }
 
 class AccessibleFlyout : public QAccessibleWidget
@@ -133,7 +126,7 @@ QWidget *Flyout::content() const
 void Flyout::setContent(QWidget *content)
 {
     QWidget *old = Flyout::content();
-    if (content && (content == old || contains(content, m_innerWidget)))
+    if (content && (content == old || Ancestry::contains(content, m_innerWidget)))
         return;
     m_contentWidget = content;
     if (content)
@@ -265,7 +258,7 @@ void Flyout::setVisible(bool visible)
  */
 void Flyout::standOnTargetWindow()
 {
-    if (parentWidget() || !m_target || contains(this, m_target))
+    if (parentWidget() || !m_target || Ancestry::contains(this, m_target))
         return;
     create();
     QWindow *targetWindow = m_target->window()->windowHandle();
@@ -305,7 +298,7 @@ bool Flyout::event(QEvent *event)
 QRect Flyout::currentTarget() const
 {
     QRect rect = m_targetRect;
-    if (rect.isNull() && m_target && !contains(this, m_target)) { // it would run after itself
+    if (rect.isNull() && m_target && !Ancestry::contains(this, m_target)) { // it would run after itself
         rect = m_target->rect();
         rect.moveCenter(m_target->mapToGlobal(rect.center()));
     }

@@ -87,7 +87,8 @@ void OverviewComboBox::insertRow(int index, const QVector<QPair<int, QVariant>> 
 void OverviewComboBox::removeItem(int index)
 {
     watchModel();
-    model()->removeRows(index, 1, rootModelIndex());
+    if (index >= 0 && index < count()) // models of Qt add 1 to the largest int
+        model()->removeRows(index, 1, rootModelIndex());
     updateGeometry();
 }
 

@@ -3,6 +3,7 @@
 #include "ribbon/RibbonLayout.h"
 #include "ribbon/RibbonSeperator.h"
 #include "ribbon/RibbonSupport.h"
+#include "theme/Ancestry.h"
 
 #include <nvo/Action.h>
 #include <nvo/Ribbon.h>
@@ -87,7 +88,7 @@ Block *RibbonTab::addBlock(Block *block)
 
 bool RibbonTab::addExtraWidget(QWidget *p_widget)
 {
-    if (!p_widget || m_boxLayout->count() != extraPosition)
+    if (!p_widget || Ancestry::contains(p_widget, this) || m_boxLayout->count() != extraPosition)
         return false;
     m_boxLayout->addWidget(p_widget, 0, Qt::AlignRight);
     return true;
