@@ -45,6 +45,19 @@ QString pictureName(const Theme &theme, const QString &page)
 
 } // namespace
 
+QPixmap takePicture(Gallery &gallery, const Theme &theme, const QString &page)
+{
+    if (!gallery.open(theme, page))
+        return QPixmap();
+    MainWindow *window = gallery.window();
+    window->resize(pictureSize);
+    window->activateWindow();
+    waitUntilActive(*window);
+    window->fitToPage(pictureSize);
+    processEventsFor(settlingTime);
+    return window->grab();
+}
+
 QString takeScreenshots(Gallery &gallery, const Options &options)
 {
     const QDir directory(options.screenshotDirectory);
@@ -56,17 +69,11 @@ QString takeScreenshots(Gallery &gallery, const Options &options)
     QTextStream out(stdout);
     for (const Theme &theme : chosenThemes) {
         for (const QString &page : chosenPages) {
-            if (!gallery.open(theme, page))
+            const QPixmap picture = takePicture(gallery, theme, page);
+            if (picture.isNull())
                 return gallery.error();
-            MainWindow *window = gallery.window();
-            window->resize(pictureSize);
-            window->activateWindow();
-            waitUntilActive(*window);
-            window->fitToPage(pictureSize);
-            processEventsFor(settlingTime);
-
             const QString file = directory.absoluteFilePath(pictureName(theme, page));
-            if (!window->grab().save(file, "PNG"))
+            if (!picture.save(file, "PNG"))
                 return QStringLiteral("file cannot be written: %1").arg(file);
             out << file << '\n';
             out.flush();

@@ -20,9 +20,12 @@ void ComboBoxDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
     QItemDelegate::paint(painter, wide, index);
 }
 
+/** The list that a combo box has from the start makes its rows as wide as itself: measuring them all would be
+ *  in vain, with each change of font or style, and takes seconds in a long list. */
 QSize ComboBoxDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    return {QItemDelegate::sizeHint(option, index).width(), m_comboBox->itemHeight()};
+    const bool isOwnList = option.widget && option.widget->inherits("QComboBoxListView");
+    return {isOwnList ? 0 : QItemDelegate::sizeHint(option, index).width(), m_comboBox->itemHeight()};
 }
 
 void ComboBoxDelegate::drawDisplay(QPainter *painter, const QStyleOptionViewItem &option, const QRect &rect,

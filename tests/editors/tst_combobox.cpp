@@ -127,6 +127,26 @@ private Q_SLOTS:
         }
     }
 
+    /** The rows have the width of the list, so that none has to be measured. */
+    void longList()
+    {
+        struct Model : QStringListModel
+        {
+            QVariant data(const QModelIndex &index, int role) const override
+            {
+                asked.insert(index.row());
+                return QStringListModel::data(index, role);
+            }
+            mutable QSet<int> asked;
+        } model;
+        model.setStringList(QStringList{QString(200, 'm')} + rows(1000));
+        ComboBox box;
+        box.setModel(&model);
+        box.showPopup();
+        QVERIFY(model.asked.size() < 100);
+        QCOMPARE(box.view()->visualRect(model.index(0)).width(), box.view()->viewport()->width());
+    }
+
     void rowGeometry()
     {
         QPixmap pixmap(24, 24);

@@ -106,7 +106,9 @@ void ForcedState::hold()
 /** A widget looks focused if the one that stands in for it has the focus. */
 void ForcedState::followFocus(QWidget *focusWidget)
 {
-    m_widget->setFocusProxy(focusWidget);
+    // What stands in for this widget itself, like the field of a spin box, cannot be stood in for by it.
+    const bool isOwn = focusWidget && focusWidget->focusProxy() == m_widget;
+    m_widget->setFocusProxy(isOwn ? nullptr : focusWidget);
     m_widget->update();
     if (qobject_cast<NVO::OverviewButtonBase *>(m_widget) || qobject_cast<NVO::AbstractToggle *>(m_widget)) {
         QEvent leaveEvent(QEvent::Leave); // tiles and toggles tell their parts when they look at their state
