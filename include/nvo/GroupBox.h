@@ -53,6 +53,7 @@ public:
     void setLegend(QWidget *legend);
 
 protected:
+    bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
 

@@ -76,7 +76,7 @@ protected:
     bool event(QEvent *event) override;
 
 private:
-    QWidget *createContent(const QString &caption, const QString &subHeader);
+    void createContent(const QString &caption, const QString &subHeader);
     void createCheckBoxBar();
     void updateHairLineVisible();
 

@@ -104,7 +104,7 @@ private:
     void reserveLinkWidth();
 
     QSlider *m_slider;
-    Link *m_link;
+    Link *m_link = nullptr;
     QPointer<QAction> m_pageWidthAction;
     QPointer<QAction> m_pageZoomAction;
     QWidget *m_sliderPart;

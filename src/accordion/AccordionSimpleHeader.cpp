@@ -27,9 +27,11 @@ AccordionSimpleHeader::AccordionSimpleHeader(AccordionPart *part, QWidget *paren
     , m_spacerBetweenColorAndIndicator(makeSpacer(QStringLiteral("spacerBetweenColorAndIndicator"), this))
     , m_leftLabelWidget(new Label(this))
     , m_rightLabelWidget(new Label(this))
-    , m_boxIndicator(new AccordionBoxIndicator(this))
-    , m_indicator(new AccordionIndicator(part, this))
 {
+    // Before the indicator, whose sheet Qt would parse again.
+    StyleSupport::applySheet(this, ElementAccordion);
+    m_boxIndicator = new AccordionBoxIndicator(this);
+    m_indicator = new AccordionIndicator(part, this);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -50,7 +52,6 @@ AccordionSimpleHeader::AccordionSimpleHeader(AccordionPart *part, QWidget *paren
     connect(m_boxIndicator, &AccordionBoxIndicator::pressed, this,
             &AccordionSimpleHeader::coloredIndicatorPressed);
     alignLeftText();
-    StyleSupport::applySheet(this, ElementAccordion);
 }
 
 void AccordionSimpleHeader::changeEvent(QEvent *event)

@@ -75,6 +75,13 @@ void GroupBox::initStyleSheet()
     StyleSupport::applySheet(this, ElementGroupBox);
 }
 
+bool GroupBox::event(QEvent *event)
+{
+    // A group box of Qt asks its sheet at every event, and Qt parses a sheet again that was asked before its
+    // widget is polished.
+    return testAttribute(Qt::WA_WState_Polished) ? QGroupBox::event(event) : QWidget::event(event);
+}
+
 void GroupBox::resizeEvent(QResizeEvent *event)
 {
     QGroupBox::resizeEvent(event);

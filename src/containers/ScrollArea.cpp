@@ -43,9 +43,10 @@ ScrollArea::ScrollArea(QWidget *parent)
     , m_insideFlyout(isInsideFlyout(this))
 {
     setWidgetResizable(true);
-    setHorizontalScrollBar(makeBar(Qt::Horizontal, this));
+    // Made where they will stand: another parent would make Qt parse their sheets again.
+    setHorizontalScrollBar(makeBar(Qt::Horizontal, horizontalScrollBar()->parentWidget()));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBar(makeBar(Qt::Vertical, this));
+    setVerticalScrollBar(makeBar(Qt::Vertical, verticalScrollBar()->parentWidget()));
     setFrameStyle(0);
 }
 

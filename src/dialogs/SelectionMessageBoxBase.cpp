@@ -32,21 +32,23 @@ SelectionMessageBoxBase::SelectionMessageBoxBase(QWidget *parent, const QString 
     setWindowFilePath(helpPath);
     setButtons(buttons, DialogButton::NoButton, NoFlag);
     layout()->setSizeConstraint(QLayout::SetNoConstraint);
-    setContent(createContent(caption, subHeader));
+    createContent(caption, subHeader);
     createCheckBoxBar();
     updateHairLineVisible();
     setWindowTitle(title);
 }
 
-QWidget *SelectionMessageBoxBase::createContent(const QString &caption, const QString &subHeader)
+void SelectionMessageBoxBase::createContent(const QString &caption, const QString &subHeader)
 {
+    // Filled where it stands: a box that is moved makes Qt parse its sheet again.
     auto *content = new QWidget;
+    setContent(content);
     content->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     QVBoxLayout *column = DialogSupport::tightColumn(content);
 
-    m_infoBoxFrame = new QFrame;
+    m_infoBoxFrame = new QFrame(content);
     m_infoBoxFrame->setObjectName(QStringLiteral("infoBox"));
-    m_infoBox = new InfoBox;
+    m_infoBox = new InfoBox(m_infoBoxFrame);
     DialogSupport::tightColumn(m_infoBoxFrame)->addWidget(m_infoBox);
     m_infoBoxFrame->hide();
     column->addWidget(m_infoBoxFrame);
@@ -64,7 +66,6 @@ QWidget *SelectionMessageBoxBase::createContent(const QString &caption, const QS
     column->addWidget(namedWidget(QStringLiteral("topSpacer")));
     column->addWidget(m_buttonsContainerWidget);
     column->addWidget(namedWidget(QStringLiteral("bottomSpacer")));
-    return content;
 }
 
 void SelectionMessageBoxBase::createCheckBoxBar()

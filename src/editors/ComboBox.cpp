@@ -41,9 +41,10 @@ int ofVariant(const std::array<int, 2> &margins)
     return Product::instance().variant == 1 ? margins.back() : margins.front();
 }
 
-ScrollBar *makeScrollBar(Qt::Orientation orientation)
+/** Made where it will stand: another parent would make Qt parse its sheet again. */
+ScrollBar *makeScrollBar(const QScrollBar *replaced)
 {
-    auto *bar = new ScrollBar(orientation, nullptr);
+    auto *bar = new ScrollBar(replaced->orientation(), replaced->parentWidget());
     bar->setScrollBarStyle(ScrollBar::DropDown);
     return bar;
 }
@@ -53,9 +54,10 @@ ScrollBar *makeScrollBar(Qt::Orientation orientation)
 ComboBox::ComboBox(QWidget *parent)
     : QComboBox(parent)
 {
+    // Before the sheet: a sheet that was asked is parsed again when its widget is polished.
+    m_textMargin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
     initStyleSheet();
     view()->setItemDelegate(new ComboBoxDelegate(this));
-    m_textMargin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
     setMaxVisibleItems(normalVisibleItems);
     initPopupFrame();
     setCursor(Qt::PointingHandCursor);
@@ -63,8 +65,8 @@ ComboBox::ComboBox(QWidget *parent)
     connect(model(), &QAbstractItemModel::rowsInserted, this, &ComboBox::adjustDropDown);
     connect(model(), &QAbstractItemModel::rowsRemoved, this, &ComboBox::adjustDropDown);
     connect(model(), &QAbstractItemModel::modelReset, this, &ComboBox::adjustDropDown);
-    view()->setHorizontalScrollBar(makeScrollBar(Qt::Horizontal));
-    view()->setVerticalScrollBar(makeScrollBar(Qt::Vertical));
+    view()->setHorizontalScrollBar(makeScrollBar(view()->horizontalScrollBar()));
+    view()->setVerticalScrollBar(makeScrollBar(view()->verticalScrollBar()));
     installShadow(createDefaultShadowEffectRect());
 }
 

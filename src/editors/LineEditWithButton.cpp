@@ -75,10 +75,13 @@ LineEditWithButton::LineEditWithButton(QWidget *parent)
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
 
-    m_lineEdit = new LineEdit;
+    // The sheet comes first and the parts are made where they stand, or Qt would parse their sheets again.
+    StyleSupport::applySheet(this, ElementLineEditWithButton);
+    m_lineEdit = new LineEdit(this);
     m_lineEdit->setFixedHeight(fieldHeight);
     m_lineEdit->setObjectName(QStringLiteral("lineEdit"));
     setStyle(m_lineEdit, styleName, init());
+    m_lineEdit->ensurePolished(); // before the symbol, for which Qt would parse the sheet once more
     addClearAction();
     layout->addWidget(m_lineEdit);
     addButton();
@@ -89,7 +92,6 @@ LineEditWithButton::LineEditWithButton(QWidget *parent)
     m_button->installEventFilter(this);
     setFocusProxy(m_lineEdit);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    StyleSupport::applySheet(this, ElementLineEditWithButton);
 }
 
 LineEditWithButton::~LineEditWithButton()
@@ -110,7 +112,7 @@ void LineEditWithButton::addClearAction()
 
 void LineEditWithButton::addButton()
 {
-    m_button = new Button;
+    m_button = new Button(this);
     m_button->setObjectName(QStringLiteral("button"));
     m_button->setFixedSize(buttonSize, buttonSize);
     m_button->setIcon(StyleSupport::fileIcon(QStringLiteral(":/bulb")));

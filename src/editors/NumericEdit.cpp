@@ -28,9 +28,9 @@ QString zeroSymbol()
 NumericEdit::NumericEdit(QWidget *parent)
     : QDoubleSpinBox(parent)
 {
-    initStyleSheet();
     setAttribute(Qt::WA_MacShowFocusRect, false);
-    setButtonSymbols(QAbstractSpinBox::NoButtons);
+    setButtonSymbols(QAbstractSpinBox::NoButtons); // asks the style, so it comes before the sheet
+    initStyleSheet();
     setGroupSeparatorShown(true);
     setAlignment(Qt::AlignRight);
     installFieldShadow(this);

@@ -89,10 +89,10 @@ Flyout::Flyout(QWidget *target, const QRect &rect, FlyoutFlags flags, QWidget *p
 {
     QAccessible::installFactory(createInterface);
     setFocusPolicy(Qt::NoFocus);
-    initStyleSheet();
     setContentsMargins(0, 0, shadowRoom, shadowRoom);
     setWindowFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint
                    | (flags.testFlag(Sticky) ? Qt::ToolTip : Qt::Popup));
+    initStyleSheet(); // behind the flags, which make Qt parse a sheet
     setAttribute(Qt::WA_TranslucentBackground);
 
     m_innerWidget = new FlyoutInnerWidget(this);

@@ -33,8 +33,6 @@ OverviewButtonWithWidget::OverviewButtonWithWidget(QWidget *parent)
     : QWidget(parent)
     , m_button(new OverviewButton(this))
     , m_lastLine(new QWidget(this))
-    , m_checkBox(new CheckBox(m_lastLine))
-    , m_label(new Label(m_lastLine))
 {
     using Border = OverviewButton::BorderStyle;
     using Corner = OverviewButton::RoundCornerStyle;
@@ -57,6 +55,10 @@ void OverviewButtonWithWidget::createLastLine()
 {
     m_lastLine->setObjectName(QStringLiteral("lastLine"));
     m_lastLine->setProperty("style", StyleSupport::enumKey(m_button->overviewButtonStyle()));
+    m_lastLine->setProperty("state", stateName(m_button->styleState()));
+    StyleSupport::applySheet(m_lastLine, ElementOverviewButton);
+    m_checkBox = new CheckBox(m_lastLine); // under the sheet, or Qt would parse its own again
+    m_label = new Label(m_lastLine);
     auto *spacer = new QWidget(m_lastLine);
     spacer->setObjectName(QStringLiteral("spacerBeforeLastLine"));
     m_checkBox->setObjectName(QStringLiteral("lastLineWidget"));
@@ -68,7 +70,6 @@ void OverviewButtonWithWidget::createLastLine()
     row->addWidget(spacer);
     row->addWidget(m_checkBox);
     row->addWidget(m_label);
-    StyleSupport::applySheet(m_lastLine, ElementOverviewButton);
 }
 
 void OverviewButtonWithWidget::connectSignals()
@@ -86,7 +87,10 @@ void OverviewButtonWithWidget::connectSignals()
 
 void OverviewButtonWithWidget::overviewButtonStyleStateChanged()
 {
-    m_lastLine->setProperty("state", stateName(m_button->styleState()));
+    const QString state = stateName(m_button->styleState());
+    if (m_lastLine->property("state") == state)
+        return;
+    m_lastLine->setProperty("state", state);
     if (StyleSupport::isStyleSheetStyled(m_lastLine))
         StyleSupport::repolish(m_lastLine);
 }

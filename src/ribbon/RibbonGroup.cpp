@@ -74,7 +74,10 @@ RibbonGroup::RibbonGroup(Action *p_action, bool p_popup, QWidget *p_parent)
 {
     RibbonAccessible::install();
     m_stackedLayout->setContentsMargins(0, 0, 0, 0);
-    auto *panel = new QWidget;
+    // The sheet comes first and the parts are made where they stand, or Qt would parse their sheets again.
+    setProperty("style", p_popup ? QStringLiteral("popup") : QStringLiteral("default"));
+    initStyleSheet();
+    auto *panel = new QWidget(this);
     panel->setStyleSheet(QStringLiteral("background-color: transparent;"));
     m_groupLayout = new RibbonGroupLayout(panel);
     const int margin = p_popup ? popupMargin : 0;
@@ -83,8 +86,6 @@ RibbonGroup::RibbonGroup(Action *p_action, bool p_popup, QWidget *p_parent)
         connect(p_action, &QAction::triggered, this, &RibbonGroup::triggeredAction);
         connect(p_action, &QAction::changed, this, &RibbonGroup::changedAction);
     }
-    setProperty("style", p_popup ? QStringLiteral("popup") : QStringLiteral("default"));
-    initStyleSheet();
     m_stackedLayout->addWidget(panel);
     if (!p_popup)
         createButton();
@@ -101,7 +102,7 @@ RibbonGroup::~RibbonGroup()
 
 void RibbonGroup::createButton()
 {
-    m_groupButton = new RibbonGroupButton;
+    m_groupButton = new RibbonGroupButton(this);
     m_groupButton->setObjectName(QStringLiteral("RibbonGroupButton"));
     m_groupButton->setCursor(Qt::PointingHandCursor);
     connect(m_groupButton, &QAbstractButton::clicked, this, &RibbonGroup::showPopup);

@@ -44,10 +44,9 @@ QHBoxLayout *makeLayout(QWidget *widget)
 
 ZoomSlider::ZoomSlider(QWidget *parent)
     : QWidget(parent)
-    , m_slider(new QSlider(Qt::Horizontal))
-    , m_link(new Link)
-    , m_sliderPart(new QWidget)
-    , m_buttonPart(new QWidget)
+    , m_slider(new QSlider(Qt::Horizontal, this))
+    , m_sliderPart(new QWidget(this))
+    , m_buttonPart(new QWidget(this))
 {
     initStyleSheet();
     setToolTip(QStringLiteral("Zoom"));
@@ -110,6 +109,7 @@ void ZoomSlider::buildSliderPart()
 
 void ZoomSlider::buildButtonPart()
 {
+    m_link = new Link(m_buttonPart); // where it stands: another parent would make Qt parse its sheet again
     m_link->setFocusPolicy(Qt::NoFocus);
     m_link->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_link->setLinkStyle(Product::instance().variant == 1 ? Link::FlyoutLight : Link::FlyoutDark);
@@ -205,6 +205,7 @@ void ZoomSlider::setZoomLevels(const QVector<int> &p_levels)
 /** The menu of the link without its entries. They die later: one of them may be what calls us. */
 QMenu *ZoomSlider::emptyMenu()
 {
+    m_link->ensurePolished(); // before the menu, for which Qt would parse its sheet once more
     if (!m_link->menu())
         m_link->setMenu(new QMenu(m_link));
     QMenu *menu = m_link->menu();
@@ -306,6 +307,8 @@ bool ZoomSlider::event(QEvent *event)
 /** Room for any percentage of three digits. */
 void ZoomSlider::reserveLinkWidth()
 {
+    if (!m_link)
+        return; // still being made
     m_link->setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("X00%")) + linkPadding);
 }
 

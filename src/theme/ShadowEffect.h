@@ -45,7 +45,8 @@ public:
 protected:
     void draw(QPainter *painter) override
     {
-        if constexpr (sourceShape == ShadowOfWidget) {
+        // Qt walks over the whole window to give a picture of one widget in it.
+        if (sourceShape == ShadowOfWidget || !enabled()) {
             const QWidget *widget = source()->widget();
             if (widget && isOnScreen(*widget, *painter) && !hasEffectInside(*widget)) {
                 drawAround(*widget, painter);
